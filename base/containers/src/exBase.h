@@ -1,0 +1,23 @@
+#pragma once
+
+#include "qvExport.h"
+
+#include <exception>
+#include <string>
+
+namespace Qv {
+
+/// Base of the base library's exceptions.
+class QV_EXPORT ExBase : public std::exception {
+public:
+  /// @param what one sentence for a person.
+  explicit ExBase(std::string what);
+  ~ExBase() override;
+
+  char const* what() const noexcept override;
+
+private:
+  std::string what_;
+};
+
+} // namespace Qv

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "containers.h"
+#include "iterator.h"
+#include "iteratorEx.h"
+#include "rcStrongPtr.h"
+
+#include <cassert>
+
+namespace Qv {
+
+/// Yields elements as they are stored.
+struct QV_EXPORT IteratorAccessorPassthrough {
+  template <class T> static T& access(T& element) { return element; }
+};
+
+/// Engine over a List or Vector that it shares with its clones. The container must be complete
+/// before the engine is made and must not change afterwards.
+/// @tparam StrongPtr the pointer that shares the container, `RCStrongPtr<Container>`.
+/// @tparam Accessor turns the stored element into the one that is yielded.
+template <class Container, class StrongPtr, class Accessor>
+class QV_EXPORT IteratorSTL : public IteratorImp<typename Container::value_type> {
+public:
+  using Element = typename Container::value_type;
+
+  /// Stands on the first element. @param container owns the container, which must not be null.
+  explicit IteratorSTL(StrongPtr const& container)
+      : container_(container), position_(container_->begin()) {}
+
+protected:
+  ~IteratorSTL() override;
+
+public:
+  bool isEqual(IteratorImp<Element> const& other) const override {
+    auto const& engine = dynamic_cast<IteratorSTL const&>(other);
+    if (atEnd() || engine.atEnd())
+      return atEnd() && engine.atEnd();
+    return std::addressof(item()) == std::addressof(engine.item());
+  }
+
+  Element const& item() const override {
+    assert(!atEnd());
+    return Accessor::access(*position_);
+  }
+  Element& item() override {
+    assert(!atEnd());
+    return Accessor::access(*position_);
+  }
+
+  void first() override { position_ = container_->begin(); }
+  void last() override {
+    position_ = container_->end();
+    if (!container_->empty())
+      --position_;
+  }
+  void end() override { position_ = container_->end(); }
+  bool atEnd() const override { return position_ == container_->end(); }
+  bool atBegin() const override { return position_ == container_->begin(); }
+
+  void next() override {
+    if (atEnd())
+      throwOutOfRange(148);
+    ++position_;
+  }
+  void previous() override {
+    if (atBegin())
+      throwOutOfRange(159);
+    --position_;
+  }
+
+  int getCardinality() const override { return static_cast<int>(container_->size()); }
+  IteratorSTL* clone() const override { return new IteratorSTL(*this); }
+
+private:
+  IteratorSTL(IteratorSTL const&) = default;
+
+  /// The path is as the build records it, and the lines are those that handlers have always seen.
+  [[noreturn]] static void throwOutOfRange(int line) {
+    throw IteratorEx::ExOutOfRange(".\\base/containers/src/iteratorSTL.imp.h", line);
+  }
+
+  StrongPtr container_;
+  typename Container::iterator position_;
+};
+
+template <class Container, class StrongPtr, class Accessor>
+inline IteratorSTL<Container, StrongPtr, Accessor>::~IteratorSTL() = default;
+
+} // namespace Qv

@@ -1,0 +1,62 @@
+#pragma once
+
+// Intrusive reference counting: the count lives in the object, so any raw pointer to a counted
+// object can become a counting pointer again, and one allocation serves object and count.
+
+#include "qvExport.h"
+
+#include <atomic>
+
+namespace Qv {
+
+/// A counter that several threads may change. All operations are sequentially consistent; the
+/// decrement that ends a life must see every write made through the other pointers before.
+template <class T> class QV_EXPORT LkCounter {
+public:
+  /// Returns the value before the change.
+  T operator++(int) noexcept { return value_.fetch_add(1, std::memory_order_seq_cst); }
+  /// Returns the value before the change.
+  T operator--(int) noexcept { return value_.fetch_sub(1, std::memory_order_seq_cst); }
+
+  operator T() const noexcept { return value_.load(std::memory_order_seq_cst); }
+
+private:
+  std::atomic<T> value_{0};
+};
+
+/// Base of every counted object. It must be the first base, so that the address of an object is
+/// the address of its RCBase.
+/// @tparam Counter `LkCounter<int>`, or `int` for objects that stay on one thread.
+template <class Counter> class QV_EXPORT RCBase {
+public:
+  /// Takes one reference.
+  void acquire() const noexcept { count_++; }
+
+  /// Gives one reference back; the last one deletes the object, whose destructor may be protected.
+  void release() const noexcept {
+    if (count_-- == 1)
+      delete this;
+  }
+
+  /// The number of references held at this moment.
+  int getRefCount() const noexcept { return count_; }
+
+  /// The address of this sub-object.
+  void const* asRCBase() const noexcept { return this; }
+
+protected:
+  RCBase() noexcept = default;
+  /// A copy is a new object that nobody holds yet.
+  RCBase(RCBase const& /*other*/) noexcept {}
+  /// The references belong to the objects, not to their values: both counts stay.
+  RCBase& operator=(RCBase const& /*other*/) noexcept { return *this; }
+  virtual ~RCBase() = default;
+
+private:
+  mutable Counter count_{};
+};
+
+extern template class QV_EXPORT RCBase<LkCounter<int>>;
+extern template class QV_EXPORT RCBase<int>;
+
+} // namespace Qv

@@ -1,0 +1,110 @@
+#pragma once
+
+// The shared pointer to counted objects. It is one raw pointer wide; copying costs one increment
+// of the count in the pointee. Use it for whatever derives from RCBase, RCStrongPtr for the rest.
+
+#include "rcBase.h"
+#include "rcExUtil.h"
+
+#include <ostream>
+#include <string>
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
+
+namespace Qv {
+
+/// The raw pointer behind RCShdPtr, and its diagnostic text.
+template <class T> class QV_EXPORT RCBasePtr {
+public:
+  /// Writes the dynamic type, `T`, the count and both addresses, without a line end.
+  void dump(std::ostream& os) const {
+    void const* const rcBase = ptr_ ? ptr_->asRCBase() : nullptr;
+    os << "Pointee type = " << (ptr_ ? typeName(typeid(*ptr_)) : "null")
+       << ", T type = " << typeName(typeid(T))
+       << ", ref: " << std::to_string(ptr_ ? ptr_->getRefCount() : 0)
+       << ", pointer:" << static_cast<void const*>(ptr_) << ", RCBase pointer: " << rcBase;
+  }
+
+protected:
+  explicit RCBasePtr(T* ptr) noexcept : ptr_(ptr) {}
+  RCBasePtr(RCBasePtr const&) noexcept = default;
+  RCBasePtr& operator=(RCBasePtr const&) noexcept = default;
+  ~RCBasePtr() = default;
+
+  T* ptr_;
+};
+
+/// Shared pointer to an object that derives from an RCBase.
+template <class T> class QV_EXPORT RCShdPtr : public RCBasePtr<T> {
+public:
+  /// Takes a reference on `ptr`, which may be null.
+  explicit RCShdPtr(T* ptr = nullptr) noexcept : RCBasePtr<T>(ptr) { acquire(); }
+  RCShdPtr(RCShdPtr const& other) noexcept : RCBasePtr<T>(other) { acquire(); }
+  RCShdPtr(RCShdPtr&& other) noexcept : RCBasePtr<T>(std::exchange(other.ptr_, nullptr)) {}
+
+  /// Converts to a base class or to const.
+  template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+  RCShdPtr(RCShdPtr<U> const& other) noexcept : RCShdPtr(other.get()) {}
+
+  ~RCShdPtr() { release(this->ptr_); }
+
+  RCShdPtr& operator=(RCShdPtr const& other) noexcept {
+    if (other.ptr_ != this->ptr_) {
+      T* const old = std::exchange(this->ptr_, other.ptr_);
+      acquire();
+      release(old);
+    }
+    return *this;
+  }
+
+  RCShdPtr& operator=(RCShdPtr&& other) noexcept {
+    T* const taken = std::exchange(other.ptr_, nullptr);
+    release(std::exchange(this->ptr_, taken));
+    return *this;
+  }
+
+  /// The pointee. @throws ExNullPtr when there is none.
+  T& operator*() const {
+    if (!this->ptr_)
+      RCExUtil::throwExNullPtrOf<T*>();
+    return *this->ptr_;
+  }
+  /// The pointee. @throws ExNullPtr when there is none.
+  T* operator->() const { return &**this; }
+
+  /// The raw pointer, which may be null and carries no reference.
+  T* get() const noexcept { return this->ptr_; }
+  explicit operator bool() const noexcept { return this->ptr_ != nullptr; }
+
+  /// The pointee as a `U`, or null when it is none.
+  template <class U> RCShdPtr<U> dynamicCast() const noexcept {
+    return RCShdPtr<U>(dynamic_cast<U*>(this->ptr_));
+  }
+
+  /// The pointee as a `U`; null stays null. @throws ExCastFailed when it is of another class.
+  template <class U> RCShdPtr<U> checkedCast() const {
+    RCShdPtr<U> result = dynamicCast<U>();
+    if (this->ptr_ && !result)
+      RCExUtil::throwExCastFailed(typeName(typeid(*this->ptr_)).c_str(),
+                                  typeName(typeid(U)).c_str());
+    return result;
+  }
+
+private:
+  void acquire() const noexcept {
+    if (this->ptr_)
+      this->ptr_->acquire();
+  }
+  static void release(T* ptr) noexcept {
+    if (ptr)
+      ptr->release();
+  }
+};
+
+template <class T, class U>
+bool operator==(RCShdPtr<T> const& left, RCShdPtr<U> const& right) noexcept {
+  return left.get() == right.get();
+}
+
+} // namespace Qv

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "brAttrib.h"
+#include "containers.h"
+
+#include <optional>
+
+namespace Qv {
+
+/// The columns of a scheme, in order.
+class QV_EXPORT BrAttribList : public RCBase<LkCounter<int>> {
+public:
+  /// Adds a column after the existing ones.
+  void append(RCShdPtr<BrAttrib> const& attrib);
+  /// Sorts the list by one attribute alone.
+  void singleSort(int attributeId);
+
+  Vector<RCShdPtr<BrAttrib>> const& getAttribs() const { return attribs_; }
+  /// The attribute that the list is sorted by, if any.
+  std::optional<int> getSortKey() const { return sortKey_; }
+
+protected:
+  ~BrAttribList() override;
+
+private:
+  Vector<RCShdPtr<BrAttrib>> attribs_;
+  std::optional<int> sortKey_;
+};
+
+} // namespace Qv

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "brServer.h"
+#include "brView.h"
+
+namespace Qv {
+
+/// The registry of the asset browser.
+class QV_EXPORT BrRegistry {
+public:
+  // Keys of the host's standard thumbnails.
+  static LiString const FolderThumbnail;
+  static LiString const ToolThumbnail;
+  static LiString const SuperToolThumbnail;
+  static LiString const ViewThumbnail;
+
+  static BrRegistry& getInstance();
+
+  /// Offers the scheme named by the server.
+  virtual void registerServer(OPtr<BrServer> server) = 0;
+  /// Keeps a prototype, which the browser clones, under a role.
+  virtual void registerView(OPtr<BrView> view, LiString role) = 0;
+  /// The image kept under `key`; null when there is none.
+  virtual RCShdPtr<WsManagedImage> getThumbnail(LiString const& key, LiString const& variant) = 0;
+  virtual void registerIcon(LiString const& key, RCShdPtr<WsManagedImage> const& image,
+                            LiString const& variant) = 0;
+
+protected:
+  ~BrRegistry() = default;
+};
+
+} // namespace Qv

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "brBrowsable.h"
+#include "uiResHolder.h"
+
+namespace Qv {
+
+class UiContainer;
+class UiLabel;
+class UiPane;
+class UiTextEditor;
+
+/// Builds a detail page, field by field, from a table of resources.
+class QV_EXPORT BvDetailMgr : public RCBase<LkCounter<int>> {
+protected:
+  ~BvDetailMgr() override;
+
+public:
+  /// Hands over the item on show; the manager shows the host's own information about it.
+  virtual void setBrowsable(RCShdPtr<BrBrowsable> const& item) = 0;
+
+  /// Builds the page container described under `name`. @param parent null for a page of its own.
+  static RCShdPtr<BvDetailMgr> create(RCShdPtr<UiContainer> const& parent, char const* name,
+                                      UiResTable const* resources);
+
+  /// Adds the label described under `name` to the fields as the next title.
+  RCShdPtr<UiLabel> createAndAddTitleLabel(char const* name, UiResTable const* resources);
+  /// Adds the label described under `name` to the fields as the next value.
+  RCShdPtr<UiLabel> createAndAddValueLabel(char const* name, UiResTable const* resources);
+  /// Adds the text editor described under `name` to the fields as the next value.
+  RCShdPtr<UiTextEditor> createAndAddValueTextEditor(char const* name, UiResTable const* resources);
+
+  /// The pane that holds the fields.
+  RCShdPtr<UiPane> getGeneralInfoPane();
+  /// The pane meant for the item's icon.
+  RCShdPtr<UiPane> getIconPane();
+};
+
+} // namespace Qv

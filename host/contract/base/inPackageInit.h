@@ -1,0 +1,53 @@
+#pragma once
+
+#include "containers.h"
+#include "qvExport.h"
+
+#include <string>
+#include <typeinfo>
+
+namespace Qv {
+
+class InVariableBase;
+
+/// What the package manager may ask of any package.
+class QV_EXPORT InPackageInitBase {
+public:
+  virtual ~InPackageInitBase();
+  virtual void addDependency(InVariableBase* variable) = 0;
+  virtual void removeDependency(InVariableBase* variable) = 0;
+  virtual char const* getName() const = 0;
+  virtual void packageHookA() = 0;
+  virtual void packageHookB() = 0;
+  virtual void initialize() = 0;
+  virtual void uninitialize() = 0;
+  virtual void setPackageFlag(bool flag) = 0;
+};
+
+/// A package under a name, with the packages that it needs.
+class QV_EXPORT InPackageInit : public InPackageInitBase {
+public:
+  /// @param name is copied.
+  explicit InPackageInit(char const* name);
+  /// Withdraws the package from the package manager.
+  ~InPackageInit() override;
+  InPackageInit(InPackageInit const&) = delete;
+  InPackageInit& operator=(InPackageInit const&) = delete;
+
+  void addDependency(InVariableBase* variable) override;
+  void removeDependency(InVariableBase* variable) override;
+  char const* getName() const override;
+
+  /// Makes the package known to the package manager; called once.
+  void registerPackage();
+  /// Records that this package needs the package whose package class is `package`.
+  void addDependency(std::type_info const* package);
+  /// The package classes needed, in the order of declaration.
+  Vector<std::type_info const*> const& getDependencies() const { return dependencies_; }
+
+private:
+  std::string name_;
+  Vector<std::type_info const*> dependencies_;
+};
+
+} // namespace Qv

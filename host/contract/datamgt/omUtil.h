@@ -1,0 +1,15 @@
+#pragma once
+
+#include "iterator.h"
+#include "osFilePath.h"
+
+namespace Qv {
+
+class QV_EXPORT OmUtil {
+public:
+  /// The components of `path`, standing on the first. Leading, trailing and repeated separators
+  /// are ignored; an empty path has no component.
+  static Iterator<std::string> parsePath(OsFilePath const& path);
+};
+
+} // namespace Qv

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "qvExport.h"
+
+namespace Qv {
+
+/// A colour; the components of a float colour range from 0 to 1.
+template <class T> struct QV_EXPORT CoRgbColorTyped {
+  T red{};
+  T green{};
+  T blue{};
+
+  bool operator==(CoRgbColorTyped const&) const = default;
+};
+
+} // namespace Qv

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "geVector2.h"
+
+namespace Qv {
+
+/// A rectangle, by its corner of least coordinates and its size.
+template <class T> struct QV_EXPORT GeRectangle {
+  GeVector2<T> origin;
+  GeVector2<T> size;
+};
+
+} // namespace Qv

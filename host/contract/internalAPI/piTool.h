@@ -1,0 +1,23 @@
+#pragma once
+
+#include "rcBase.h"
+
+#include <string>
+
+namespace Qv {
+
+/// One registered tool. Handled as `RCShdPtr<PiTool const>`.
+class QV_EXPORT PiTool : public RCBase<LkCounter<int>> {
+protected:
+  ~PiTool() override;
+
+public:
+  virtual bool isActive() const = 0;
+  virtual std::string getInfoText1() const = 0;
+  virtual std::string getInfoText2() const = 0;
+  virtual std::string getInfoText3() const = 0;
+  /// The registry name, one whole path component.
+  virtual std::string getName() const = 0;
+};
+
+} // namespace Qv

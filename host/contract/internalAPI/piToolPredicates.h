@@ -1,0 +1,22 @@
+#pragma once
+
+#include "liString.h"
+#include "piTool.h"
+#include "prdPredicate.h"
+
+namespace Qv {
+
+extern template class QV_EXPORT PrdPredicate<RCShdPtr<PiTool const>>;
+
+/// Questions about tools.
+class QV_EXPORT PiToolPredicates {
+public:
+  /// The tool belongs to the category of that name.
+  static PrdPredicate<RCShdPtr<PiTool const>> isCategory(LiString const& category);
+  /// The tool is internal to the host.
+  static PrdPredicate<RCShdPtr<PiTool const>> isInternal();
+  /// The tool is active.
+  static PrdPredicate<RCShdPtr<PiTool const>> isActive();
+};
+
+} // namespace Qv

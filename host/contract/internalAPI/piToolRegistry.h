@@ -1,0 +1,28 @@
+#pragma once
+
+#include "iterator.h"
+#include "piToolPredicates.h"
+
+namespace Qv {
+
+/// The host's registry of plug-in tools.
+class QV_EXPORT PiToolRegistry {
+public:
+  static PiToolRegistry& getInstance();
+
+  /// Null when no tool has that name.
+  virtual RCShdPtr<PiTool const> findTool(std::string const& name, bool flag) = 0;
+  /// Null when no tool has that name.
+  virtual RCShdPtr<PiTool const> getTool(std::string const& name) = 0;
+  /// Every tool for which `predicate` holds, in the order of registration; none is null.
+  virtual Iterator<RCShdPtr<PiTool const>>
+  getTools(PrdPredicate<RCShdPtr<PiTool const>> const& predicate, bool flag) = 0;
+  /// The names of the categories, in the order in which they are shown.
+  virtual Iterator<std::string> getCategories() = 0;
+  virtual bool isSuperTool(std::string const& name) = 0;
+
+protected:
+  ~PiToolRegistry() = default;
+};
+
+} // namespace Qv

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "rcShdPtr.h"
+
+#include <string>
+
+namespace Qv {
+
+template <class T> class PrdTerm;
+
+/// A question about a `T`; a value that can be negated and combined.
+template <class T> class QV_EXPORT PrdPredicate {
+public:
+  /// @param term is shared with the copies.
+  explicit PrdPredicate(RCShdPtr<PrdTerm<T> const> const& term);
+  PrdPredicate(PrdPredicate const& other);
+  virtual ~PrdPredicate();
+  PrdPredicate& operator=(PrdPredicate const& other);
+
+  PrdPredicate operator!() const;
+  PrdPredicate operator&&(PrdPredicate const& other) const;
+
+  /// Whether the predicate holds for `element`.
+  bool holds(T const& element) const;
+  /// The one index key under which all elements lie for which the predicate can hold; null when
+  /// it does not confine them so. Lives as long as the predicate.
+  std::string const* getIndexKey() const;
+
+private:
+  RCShdPtr<PrdTerm<T> const> term_;
+};
+
+} // namespace Qv

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "qvExport.h"
+
+#include <string>
+
+namespace Qv {
+
+/// The host's string. It goes wherever a standard string is expected.
+class QV_EXPORT LiString : public std::string {
+public:
+  LiString();
+  LiString(char const* text);
+  LiString(std::string const& text);
+  LiString(LiString const& other);
+  LiString(LiString&& other) noexcept;
+  ~LiString();
+
+  LiString& operator=(LiString const& other);
+  LiString& operator=(LiString&& other) noexcept;
+};
+
+} // namespace Qv

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "qvExport.h"
+
+#include <string>
+
+namespace Qv {
+
+class QV_EXPORT LiStringUtil {
+public:
+  /// The decimal text of a number.
+  static std::string convertNb(int number);
+};
+
+} // namespace Qv

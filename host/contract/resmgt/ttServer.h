@@ -1,0 +1,21 @@
+#pragma once
+
+#include "qvExport.h"
+
+#include <string>
+
+namespace Qv {
+
+/// The server of tooltip texts.
+class QV_EXPORT TtServer {
+public:
+  static TtServer& getInstance();
+
+  /// The text registered under `key`; empty when there is none.
+  virtual std::string lookupTooltip(std::string const& key) = 0;
+
+protected:
+  ~TtServer() = default;
+};
+
+} // namespace Qv

@@ -1,0 +1,9 @@
+#include "brChildrenQuery.h"
+
+namespace Qv {
+
+BrChildrenQuery::BrChildrenQuery(BrBrowsable* parent) : parent_(parent) {}
+
+BrChildrenQuery::~BrChildrenQuery() = default;
+
+} // namespace Qv

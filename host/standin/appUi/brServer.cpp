@@ -1,0 +1,77 @@
+#include "brServer.h"
+
+#include "hostOpaque.h"
+#include "omUtil.h"
+
+namespace Qv {
+
+ObSubjectAny::~ObSubjectAny() = default;
+
+BrServer::BrServer() : attributes_(new BrAttribList) {}
+
+BrServer::~BrServer() = default;
+
+RCShdPtr<BrNode> BrServer::getNodeFromBrowsable(RCShdPtr<BrBrowsable> const& browsable,
+                                                LiString& /*message*/) const {
+  return BrNode::create(browsable);
+}
+
+LiString BrServer::getRootPath(LiString const& /*path*/) const { return ""; }
+
+RCShdPtr<BrNode> BrServer::getRootNode() {
+  LiString message;
+  return getNode(getDefaultPath(), message);
+}
+
+LiString BrServer::getDefaultPath() const { return getRootPath(""); }
+
+LiString BrServer::resolvePath(LiString const& path) const { return path; }
+
+char const* BrServer::getPathSeparator() const { return "/"; }
+
+std::string BrServer::getPathInvalidChars() const { return "/"; }
+
+bool BrServer::isObservable() const { return false; }
+
+LiString BrServer::getParentPath(LiString const& path) const {
+  Iterator<std::string> component = OmUtil::parsePath(OsFilePath(path));
+  OsFilePath parent("");
+  for (int left = component.getCardinality(); left > 1; --left, component.next())
+    parent += OsFilePath(component.item());
+  return parent.getChars();
+}
+
+bool BrServer::supportsSequences() const { return false; }
+
+bool BrServer::updateSequenceInfo(RCShdPtr<BrNode> const& /*parent*/,
+                                  Vector<RCShdPtr<BrNode>> const& /*nodes*/,
+                                  Vector<RCShdPtr<BrNode>>& /*sequences*/, bool /*flag*/) {
+  return false;
+}
+
+BrServer::FilterOptions BrServer::getFilterOptions() const { return FilterOptions{}; }
+
+std::string BrServer::getBrowserRole() const { return ""; }
+
+void BrServer::expandSequences(RCShdPtr<BrNode> const& /*parent*/,
+                               Vector<RCShdPtr<BrNode>> const& /*sequences*/,
+                               Vector<RCShdPtr<BrNode>>& /*nodes*/) {}
+
+RCShdPtr<BrAttribList> BrServer::getAttributesList() const { return attributes_; }
+
+bool BrServer::isDetailBelow() const { return false; }
+
+void BrServer::selected(RCShdPtr<RCBase<LkCounter<int>>> const& /*object*/) {}
+void BrServer::unselected(RCShdPtr<RCBase<LkCounter<int>>> const& /*object*/) {}
+void BrServer::nodeExpanded(RCShdPtr<BrNode> const& /*node*/) {}
+void BrServer::parentNodeExpanded(RCShdPtr<BrNode> const& /*node*/) {}
+void BrServer::nodeCollapsed(RCShdPtr<BrNode> const& /*node*/) {}
+void BrServer::parentNodeCollapsed(RCShdPtr<BrNode> const& /*node*/) {}
+
+RCShdPtr<CmCommandStack> BrServer::getCommandStack() const { return RCShdPtr<CmCommandStack>(); }
+
+void BrServer::rescanPerformed() {}
+
+bool BrServer::isChildrenScanForeground() const { return true; }
+
+} // namespace Qv

@@ -1,0 +1,19 @@
+#include "brView.h"
+
+namespace Qv {
+
+LiString const BrView::DETAIL("detail");
+
+UiResHolder::~UiResHolder() = default;
+
+BrView::~BrView() = default;
+
+bool BrView::setFullScreen() { return false; }
+void BrView::setFullScreenFocus() {}
+void BrView::map() {}
+void BrView::unMap() {}
+void BrView::mapCb(EvEvent& /*event*/) {}
+void BrView::unMapCb(EvEvent& /*event*/) {}
+void BrView::setFullScreenHandler(CbHandler<EvEvent>* /*handler*/) {}
+
+} // namespace Qv

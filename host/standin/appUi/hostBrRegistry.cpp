@@ -1,0 +1,83 @@
+#include "hostBrRegistry.h"
+
+#include "hostError.h"
+#include "hostImage.h"
+#include "hostJournal.h"
+#include "hostResources.h"
+
+namespace Qv {
+
+// A standard thumbnail is the image file of its key's name.
+LiString const BrRegistry::FolderThumbnail("folderThumbnail");
+LiString const BrRegistry::ToolThumbnail("toolThumbnail");
+LiString const BrRegistry::SuperToolThumbnail("superToolThumbnail");
+LiString const BrRegistry::ViewThumbnail("viewThumbnail");
+
+BrRegistry& BrRegistry::getInstance() { return HostBrRegistry::getInstance(); }
+
+HostBrRegistry& HostBrRegistry::getInstance() {
+  static HostBrRegistry registry;
+  return registry;
+}
+
+BrServer* HostBrRegistry::find(std::string const& scheme) const {
+  for (OPtr<BrServer> const& server : servers_)
+    if (server->getSchemeName() == scheme)
+      return server.get();
+  return nullptr;
+}
+
+BrServer& HostBrRegistry::getServer(std::string const& scheme) const {
+  if (BrServer* const server = find(scheme))
+    return *server;
+  std::string known;
+  for (OPtr<BrServer> const& server : servers_)
+    known += (known.empty() ? "\"" : ", \"") + server->getSchemeName() + "\"";
+  throw HostError("nobody registered the scheme \"" + scheme + "\"" +
+                  (known.empty() ? "" : "; there is " + known));
+}
+
+RCShdPtr<WsManagedImage> HostBrRegistry::getIcon(std::string const& key) const {
+  auto const found = icons_.find(key);
+  return found == icons_.end() ? RCShdPtr<WsManagedImage>() : found->second;
+}
+
+void HostBrRegistry::clear() {
+  thumbnails_.clear();
+  icons_.clear();
+  views_.clear();
+  servers_.clear();
+}
+
+void HostBrRegistry::registerServer(OPtr<BrServer> server) {
+  LiString const scheme = server->getSchemeName();
+  HostJournal::getInstance().record("BrRegistry::registerServer", scheme);
+  requireComponent(scheme, "scheme name");
+  if (find(scheme))
+    throw HostError("the scheme \"" + scheme + "\" is registered already");
+  servers_.push_back(std::move(server));
+}
+
+void HostBrRegistry::registerView(OPtr<BrView> view, LiString role) {
+  HostJournal::getInstance().record("BrRegistry::registerView", role);
+  views_.push_back({std::move(role), std::move(view)});
+}
+
+RCShdPtr<WsManagedImage> HostBrRegistry::getThumbnail(LiString const& key,
+                                                      LiString const& variant) {
+  HostJournal::getInstance().record("BrRegistry::getThumbnail", key, variant);
+  auto found = thumbnails_.find(key);
+  if (found == thumbnails_.end())
+    found =
+        thumbnails_.emplace(key, HostImage::read(HostResources::getInstance().locate(key + ".tif")))
+            .first;
+  return found->second;
+}
+
+void HostBrRegistry::registerIcon(LiString const& key, RCShdPtr<WsManagedImage> const& image,
+                                  LiString const& variant) {
+  HostJournal::getInstance().record("BrRegistry::registerIcon", key, variant);
+  icons_[key] = image;
+}
+
+} // namespace Qv

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "brRegistry.h"
+
+#include <map>
+
+namespace Qv {
+
+/// Keeps the schemes, views and icons, and loads the standard thumbnails.
+class QV_EXPORT HostBrRegistry final : public BrRegistry {
+public:
+  static HostBrRegistry& getInstance();
+
+  /// In order of registration.
+  Vector<OPtr<BrServer>> const& getServers() const { return servers_; }
+  /// The server of a scheme. @throws HostError when nobody registered the scheme.
+  BrServer& getServer(std::string const& scheme) const;
+  /// The image that draws items of that type; null when there is none.
+  RCShdPtr<WsManagedImage> getIcon(std::string const& key) const;
+  void clear();
+
+  void registerServer(OPtr<BrServer> server) override;
+  void registerView(OPtr<BrView> view, LiString role) override;
+  RCShdPtr<WsManagedImage> getThumbnail(LiString const& key, LiString const& variant) override;
+  void registerIcon(LiString const& key, RCShdPtr<WsManagedImage> const& image,
+                    LiString const& variant) override;
+
+private:
+  struct View {
+    LiString role;
+    OPtr<BrView> view;
+  };
+
+  BrServer* find(std::string const& scheme) const;
+
+  Vector<OPtr<BrServer>> servers_;
+  Vector<View> views_;
+  std::map<std::string, RCShdPtr<WsManagedImage>> icons_;
+  std::map<std::string, RCShdPtr<WsManagedImage>> thumbnails_;
+};
+
+} // namespace Qv

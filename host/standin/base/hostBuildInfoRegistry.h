@@ -1,0 +1,22 @@
+#pragma once
+
+#include "containers.h"
+#include "inBuildInfo.h"
+
+namespace Qv {
+
+/// Owns the build information of the libraries.
+class QV_EXPORT HostBuildInfoRegistry {
+public:
+  static HostBuildInfoRegistry& getInstance();
+
+  InBuildInfo const& add(OPtr<InBuildInfo> info);
+  /// In order of registration.
+  Vector<OPtr<InBuildInfo>> const& getInfos() const { return infos_; }
+  void clear() { infos_.clear(); }
+
+private:
+  Vector<OPtr<InBuildInfo>> infos_;
+};
+
+} // namespace Qv

@@ -1,0 +1,15 @@
+#include "hostError.h"
+
+namespace Qv {
+
+HostError::~HostError() = default;
+
+void requireComponent(std::string const& name, char const* what) {
+  if (name.empty())
+    throw HostError(std::string("the ") + what + " is empty");
+  if (name.find('/') != std::string::npos)
+    throw HostError(std::string("the ") + what + " \"" + name +
+                    "\" holds a \"/\", so it is no single path component");
+}
+
+} // namespace Qv

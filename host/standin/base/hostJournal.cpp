@@ -1,0 +1,32 @@
+#include "hostJournal.h"
+
+#include "hostError.h"
+
+namespace Qv {
+
+HostJournal& HostJournal::getInstance() {
+  static HostJournal journal;
+  return journal;
+}
+
+void HostJournal::start() {
+  entries_.clear();
+  failAt_.reset();
+  recording_ = true;
+}
+
+void HostJournal::stop() {
+  failAt_.reset();
+  recording_ = false;
+}
+
+void HostJournal::record(std::string const& operation, std::string const& key,
+                         std::string const& detail) {
+  if (!recording_)
+    return;
+  entries_.push_back({operation, key, detail});
+  if (entries_.size() - 1 == failAt_)
+    throw HostError(operation + " was told to fail");
+}
+
+} // namespace Qv

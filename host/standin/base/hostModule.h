@@ -1,0 +1,25 @@
+#pragma once
+
+#include "qvExport.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace Qv {
+
+/// A module file that is loaded and initialised for as long as this object lives.
+class QV_EXPORT HostModule {
+public:
+  /// Loads the file and initialises each package that it registers.
+  /// @throws HostError when there is no such file, it is no shared library, or it registers no
+  /// package. Whatever a package throws passes. Nothing stays loaded then.
+  explicit HostModule(std::filesystem::path const& file);
+  /// Uninitialises all packages, so that the host lets go of the module's objects, and unloads it.
+  ~HostModule();
+
+private:
+  class Library;
+  std::unique_ptr<Library> library_;
+};
+
+} // namespace Qv

@@ -1,0 +1,81 @@
+#include "hostPackageManager.h"
+
+#include "hostError.h"
+#include "hostJournal.h"
+#include "typeName.h"
+
+#include <algorithm>
+
+namespace Qv {
+
+namespace {
+
+bool contains(Vector<InPackageInit*> const& packages, InPackageInit const& package) {
+  return std::find(packages.begin(), packages.end(), &package) != packages.end();
+}
+
+} // namespace
+
+HostPackageManager& HostPackageManager::getInstance() {
+  static HostPackageManager manager;
+  return manager;
+}
+
+InPackageInit* HostPackageManager::find(std::type_info const& packageClass) const {
+  auto const found =
+      std::find_if(packages_.begin(), packages_.end(),
+                   [&](InPackageInit const* package) { return typeid(*package) == packageClass; });
+  return found == packages_.end() ? nullptr : *found;
+}
+
+void HostPackageManager::initialize(InPackageInit& package) {
+  if (contains(initialized_, package))
+    return;
+  std::string const name = package.getName();
+  if (contains(initializing_, package))
+    throw HostError("package \"" + name + "\" depends on itself");
+
+  initializing_.push_back(&package);
+  try {
+    for (std::type_info const* const needed : package.getDependencies()) {
+      InPackageInit* const dependency = find(*needed);
+      if (!dependency)
+        throw HostError("package \"" + name + "\" depends on the package " + typeName(*needed) +
+                        ", which no loaded library provides");
+      initialize(*dependency);
+    }
+    HostJournal::getInstance().record("InPackageInit::initialize", name);
+    // Before the call: a package that fails half-way has to be uninitialised as well.
+    initialized_.push_back(&package);
+    package.initialize();
+  } catch (...) {
+    initializing_.pop_back();
+    throw;
+  }
+  initializing_.pop_back();
+}
+
+void HostPackageManager::uninitializeAll() {
+  while (!initialized_.empty()) {
+    InPackageInit* const package = initialized_.back();
+    initialized_.pop_back();
+    HostJournal::getInstance().record("InPackageInit::uninitialize", package->getName());
+    package->uninitialize();
+  }
+}
+
+void HostPackageManager::add(InPackageInit& package) {
+  HostJournal::getInstance().record("InPackageInit::registerPackage", package.getName());
+  for (InPackageInit const* const other : packages_)
+    if (std::string(other->getName()) == package.getName())
+      throw HostError(std::string("a package named \"") + package.getName() +
+                      "\" is registered already");
+  packages_.push_back(&package);
+}
+
+void HostPackageManager::remove(InPackageInit& package) noexcept {
+  std::erase(packages_, &package);
+  std::erase(initialized_, &package);
+}
+
+} // namespace Qv

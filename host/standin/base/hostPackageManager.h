@@ -1,0 +1,32 @@
+#pragma once
+
+#include "inPackageInit.h"
+
+namespace Qv {
+
+/// Knows the packages and initialises them after those they depend on.
+class QV_EXPORT HostPackageManager {
+public:
+  static HostPackageManager& getInstance();
+
+  /// All packages, in order of registration; each lives as long as its library is loaded.
+  Vector<InPackageInit*> const& getPackages() const { return packages_; }
+  /// The package of that package class; null when there is none.
+  InPackageInit* find(std::type_info const& packageClass) const;
+
+  /// Initialises what the package depends on, then the package itself; each one once.
+  /// @throws HostError when a dependency is missing or leads back to the package.
+  void initialize(InPackageInit& package);
+  /// Uninitialises in reverse order. The registries of the host let go of all they hold.
+  void uninitializeAll();
+
+  void add(InPackageInit& package);
+  void remove(InPackageInit& package) noexcept;
+
+private:
+  Vector<InPackageInit*> packages_;
+  Vector<InPackageInit*> initialized_;
+  Vector<InPackageInit*> initializing_;
+};
+
+} // namespace Qv

@@ -1,0 +1,7 @@
+#include "ixMemory.h"
+
+namespace Qv {
+
+IxMemory::~IxMemory() = default;
+
+} // namespace Qv

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "piTool.h"
+
+#include <array>
+#include <string>
+
+namespace Qv {
+
+/// What the host knows of one tool.
+struct HostToolFacts {
+  std::string name;
+  std::string category;
+  bool active = true;
+  bool internal = false;
+  bool superTool = false;
+  std::array<std::string, 3> infoTexts;
+};
+
+/// A registered tool.
+class QV_EXPORT HostTool final : public PiTool {
+public:
+  explicit HostTool(HostToolFacts facts);
+
+  bool isActive() const override { return facts_.active; }
+  std::string getInfoText1() const override { return facts_.infoTexts[0]; }
+  std::string getInfoText2() const override { return facts_.infoTexts[1]; }
+  std::string getInfoText3() const override { return facts_.infoTexts[2]; }
+  std::string getName() const override { return facts_.name; }
+
+  bool isInternal() const { return facts_.internal; }
+  std::string const& getCategory() const { return facts_.category; }
+
+private:
+  ~HostTool() override;
+
+  HostToolFacts facts_;
+};
+
+} // namespace Qv

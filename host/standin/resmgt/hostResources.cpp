@@ -1,0 +1,10 @@
+#include "hostResources.h"
+
+namespace Qv {
+
+HostResources& HostResources::getInstance() {
+  static HostResources resources;
+  return resources;
+}
+
+} // namespace Qv

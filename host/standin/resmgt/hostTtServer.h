@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ttServer.h"
+
+#include <unordered_map>
+
+namespace Qv {
+
+/// Keeps the tooltip texts.
+class QV_EXPORT HostTtServer final : public TtServer {
+public:
+  static HostTtServer& getInstance();
+
+  /// Registers `text` under `key`, in place of an earlier one.
+  void setTooltip(std::string const& key, std::string const& text) { tooltips_[key] = text; }
+  void clear() { tooltips_.clear(); }
+
+  std::string lookupTooltip(std::string const& key) override;
+
+private:
+  std::unordered_map<std::string, std::string> tooltips_;
+};
+
+} // namespace Qv

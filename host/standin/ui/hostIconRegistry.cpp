@@ -1,0 +1,24 @@
+#include "hostIconRegistry.h"
+
+#include "hostImage.h"
+#include "hostJournal.h"
+#include "hostResources.h"
+
+namespace Qv {
+
+UiIconRegistry& UiIconRegistry::getInstance() { return HostIconRegistry::getInstance(); }
+
+HostIconRegistry& HostIconRegistry::getInstance() {
+  static HostIconRegistry registry;
+  return registry;
+}
+
+RCShdPtr<WsManagedImage> HostIconRegistry::loadImage(OsFilePath const& file) {
+  RCShdPtr<HostImage> const image =
+      HostImage::read(HostResources::getInstance().locate(file.getChars()));
+  HostJournal::getInstance().record("UiIconRegistry::loadImage", file.getChars(),
+                                    image ? "" : "no such image");
+  return image;
+}
+
+} // namespace Qv

@@ -1,0 +1,62 @@
+#pragma once
+
+// The template instances that the module exports; each is made once, in pbrInstances.cpp. Every
+// header of the module includes this one before any of the host's: g++ silently leaves an instance
+// out of the exports when it was made implicitly before its declaration here, or when one of its
+// arguments is hidden, so the classes are declared visible.
+
+#include "iteratorSTL.imp.h"
+
+#include <string>
+
+namespace Qv {
+
+class QV_EXPORT BrBrowsable;
+class QV_EXPORT BrChildrenQuery;
+class QV_EXPORT IxMemory;
+class QV_EXPORT LiString;
+class QV_EXPORT PbrToolBrowsable;
+class QV_EXPORT PiTool;
+class QV_EXPORT WsManagedImage;
+
+extern template RCShdPtr<RCSWCount<LkCounter<int>>>::~RCShdPtr();
+extern template RCShdPtr<BrChildrenQuery>::~RCShdPtr();
+extern template RCShdPtr<PbrToolBrowsable>::~RCShdPtr();
+extern template RCShdPtr<PiTool const>::~RCShdPtr();
+extern template RCShdPtr<WsManagedImage>::~RCShdPtr();
+extern template RCShdPtr<IxMemory>::~RCShdPtr();
+
+using BrBrowsables = List<RCShdPtr<BrBrowsable>>;
+using Names = Vector<std::string>;
+
+extern template class RCStrongBasePtr<BrBrowsables, LkCounter<int>>;
+extern template class RCStrongBasePtr<Names, LkCounter<int>>;
+extern template class RCStrongPtr<BrBrowsables>;
+extern template class RCStrongPtr<Names>;
+
+extern template class RCPvtEngPtr<IteratorImp<std::string>>;
+extern template class RCPvtEngPtr<IteratorImp<RCShdPtr<BrBrowsable>>>;
+extern template class RCPvtEngPtr<IteratorImp<RCShdPtr<PiTool const>>>;
+extern template class RCPvtEngPtr<IteratorImp<LiString>>;
+
+extern template class IteratorImp<std::string>;
+extern template class IteratorImp<RCShdPtr<BrBrowsable>>;
+
+extern template class Iterator<std::string>;
+extern template class Iterator<RCShdPtr<BrBrowsable>>;
+extern template class Iterator<RCShdPtr<PiTool const>>;
+extern template class Iterator<LiString>;
+
+/// The engine over the children that a query makes.
+using BrBrowsablesEngine =
+    IteratorSTL<BrBrowsables, RCStrongPtr<BrBrowsables>, IteratorAccessorPassthrough>;
+/// The engine over a list of names.
+using NamesEngine = IteratorSTL<Names, RCStrongPtr<Names>, IteratorAccessorPassthrough>;
+
+extern template class IteratorSTL<BrBrowsables, RCStrongPtr<BrBrowsables>,
+                                  IteratorAccessorPassthrough>;
+extern template class IteratorSTL<Names, RCStrongPtr<Names>, IteratorAccessorPassthrough>;
+extern template class RCPvtEngPtr<BrBrowsablesEngine>;
+extern template class RCPvtEngPtr<NamesEngine>;
+
+} // namespace Qv

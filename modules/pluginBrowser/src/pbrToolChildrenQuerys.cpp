@@ -1,0 +1,35 @@
+#include "pbrToolChildrenQuerys.h"
+
+#include "omUtil.h"
+#include "pbrToolBrowsable.h"
+
+namespace Qv {
+
+PbrToolChildrenQuerys::PbrToolChildrenQuerys(PbrToolBrowsable* browsable,
+                                             BrBrowsable::FindFilter filter)
+    : BrChildrenQuery(browsable), browsable_(browsable), filter_(filter), pending_(true) {}
+
+PbrToolChildrenQuerys::~PbrToolChildrenQuerys() = default;
+
+void PbrToolChildrenQuerys::reset() { pending_ = true; }
+
+Iterator<RCShdPtr<BrBrowsable>> PbrToolChildrenQuerys::getNextChildSequence() {
+  RCStrongPtr<BrBrowsables> const children(new BrBrowsables);
+  if (pending_ && browsable_->isAContainer()) {
+    for (Iterator<std::string> names = browsable_->getChildren(); !names.atEnd(); names.next()) {
+      OsFilePath const parentPath(browsable_->getPath());
+      OsFilePath childPath(parentPath);
+      childPath += OsFilePath(names.item());
+      if (filter_ == 2 && OmUtil::parsePath(childPath).getCardinality() != 2)
+        continue;
+      children->push_back(
+          PbrToolBrowsable::create(browsable_->getServer(), std::string(childPath.getChars())));
+    }
+  }
+  // Only now: a child that cannot be made leaves the query pending.
+  pending_ = false;
+  return Iterator<RCShdPtr<BrBrowsable>>(
+      RCPvtEngPtr<IteratorImp<RCShdPtr<BrBrowsable>>>(new BrBrowsablesEngine(children)));
+}
+
+} // namespace Qv

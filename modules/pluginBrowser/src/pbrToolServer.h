@@ -1,0 +1,22 @@
+#pragma once
+
+#include "pbrInstances.h"
+
+#include "brServer.h"
+
+namespace Qv {
+
+/// The server of the tool scheme: its name, its columns, and the node for a path.
+class QV_EXPORT PbrToolServer : public BrServer {
+public:
+  PbrToolServer();
+  ~PbrToolServer() override;
+
+  BrServer* clone() const override;
+  /// @throws ExProgramAborted when the path has three or more components. @param message stays.
+  RCShdPtr<BrNode> getNode(LiString const& path, LiString& message) override;
+  LiString getSchemeName() const override;
+  bool isObservable() const override;
+};
+
+} // namespace Qv

@@ -1,0 +1,84 @@
+#include "pluginBrowserQvmoduleInit.h"
+
+#include "pbrInstances.h"
+
+#include "brRegistry.h"
+#include "inBuildInfo.h"
+#include "inInit.imp.h"
+#include "pbrToolBrowsable.h"
+#include "pbrToolServer.h"
+#include "uiIconRegistry.h"
+
+namespace Qv {
+
+using PackageInit = InInit<QvInit::pluginBrowserQvmodule>;
+
+template <> PackageInit::InInit() : InPackageInit("pluginBrowserQvmodule") {
+  registerPackage();
+  addDependency(InInit<QvInit::appUi>::getType());
+  addDependency(InInit<QvInit::ui>::getType());
+  addDependency(InInit<QvInit::datamgt>::getType());
+  addDependency(InInit<QvInit::gfx>::getType());
+  addDependency(InInit<QvInit::framework>::getType());
+  addDependency(InInit<QvInit::internalAPI>::getType());
+  addDependency(InInit<QvInit::pluginAPI>::getType());
+  addDependency(InInit<QvInit::resmgt>::getType());
+  addDependency(InInit<QvInit::base>::getType());
+}
+
+namespace {
+
+class LibraryBuildInfo : public InBuildInfo {
+public:
+  char const* getProductName() const override { return "Halvard Ostrel Library"; }
+  char const* getLibraryName() const override { return "libQvpluginBrowserQvmodule"; }
+  char const* getReleaseName() const override { return "2013"; }
+  char const* getVersionString() const override { return "8.0"; }
+  char const* getStageName() const override { return ""; }
+  int getMajorVersion() const override { return 8; }
+  int getMinorVersion() const override { return 0; }
+  int getStageCode() const override { return 42; }
+  char const* getBuildNumber() const override { return "2600"; }
+  char const* getBuildDate() const override { return "Jun 12 2012"; }
+  char const* getBuildFlavor() const override { return "opt.x86_64.intel"; }
+};
+
+} // namespace
+
+// All statics of the module stand here, since the language keeps the order only within one source
+// file: the package is declared before anything else of the module exists, and goes last.
+
+namespace {
+PackageInit package;
+OsFilePath const schemeIconPath(std::string("scheme.tif"));
+} // namespace
+
+LiString const PbrToolBrowsable::FolderId("Tools Folder");
+LiString const PbrToolBrowsable::CategoryId("Tool Category");
+LiString const PbrToolBrowsable::SuperToolId("Super Tool");
+LiString const PbrToolBrowsable::ToolId("Tool");
+
+template <> void PackageInit::initialize() {
+  InBuildInfoUtil::registerInfo(OPtr<InBuildInfo>(new LibraryBuildInfo));
+
+  UiIconRegistry& icons = UiIconRegistry::getInstance();
+  BrRegistry& browser = BrRegistry::getInstance();
+
+  OPtr<BrServer> toolServer(new PbrToolServer);
+  browser.registerServer(std::move(toolServer));
+
+  auto const registerIcon = [&](LiString const& key, OsFilePath const& file) {
+    browser.registerIcon(key, icons.loadImage(file), LiString(""));
+  };
+  registerIcon(PbrToolBrowsable::FolderId, OsFilePath(std::string("folder.tif")));
+  registerIcon(PbrToolBrowsable::CategoryId, OsFilePath(std::string("folder.tif")));
+  registerIcon(PbrToolBrowsable::ToolId, OsFilePath(std::string("tool.tif")));
+  registerIcon(PbrToolBrowsable::SuperToolId, OsFilePath(std::string("supertool.tif")));
+  registerIcon(LiString("ToolsSchemeIcon"), schemeIconPath);
+}
+
+template <> void PackageInit::uninitialize() {}
+
+template class InInit<QvInit::pluginBrowserQvmodule>;
+
+} // namespace Qv
