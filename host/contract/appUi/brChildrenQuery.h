@@ -20,6 +20,9 @@ public:
   /// The next children; empty when there are no more.
   virtual Iterator<RCShdPtr<BrBrowsable>> getNextChildSequence() = 0;
 
+  /// The item whose children are enumerated.
+  BrBrowsable* getParent() const { return parent_; }
+
 private:
   BrBrowsable* parent_;
 };

@@ -2,10 +2,9 @@
 
 #include "brView.h"
 #include "osFilePath.h"
+#include "uiPane.h"
 
 namespace Qv {
-
-class UiPane;
 
 /// A page of the browser that shows one item in detail.
 class QV_EXPORT BrDetailView : public BrView {
@@ -16,12 +15,27 @@ public:
   virtual RCShdPtr<VpPlayer> const getMiniPlayer() const;
 
   /// Loads the resource table from `resourceFile`. @param name names the view.
+  /// @throws HostError when the file is missing or has a fault.
   BrDetailView(LiString const& name, OsFilePath const& resourceFile);
 
   /// Adds a page under a title.
   void addDetailInfoPage(RCShdPtr<UiWidget> page, LiString const& title);
   /// Installs the pane that shows the item's icon.
   void setIconPane(RCShdPtr<UiPane> pane);
+
+  struct Page {
+    LiString title;
+    RCShdPtr<UiWidget> widget;
+  };
+  LiString const& getName() const { return name_; }
+  /// In the order in which they were added.
+  Vector<Page> const& getPages() const { return pages_; }
+  RCShdPtr<UiPane> const& getIconPane() const { return iconPane_; }
+
+private:
+  LiString name_;
+  Vector<Page> pages_;
+  RCShdPtr<UiPane> iconPane_;
 };
 
 } // namespace Qv

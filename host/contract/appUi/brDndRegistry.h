@@ -12,6 +12,18 @@ public:
   /// Attaches a handler to the class of items that the prototype `type` stands for. Returns false
   /// when that class has a handler already.
   bool addHandler(RCShdPtr<BrBrowsable> const& type, RCShdPtr<BrDndHandler> const& handler);
+
+  /// The handler for items of that class; null when there is none.
+  RCShdPtr<BrDndHandler> findHandler(BrBrowsable const& item) const;
+  void clear() { entries_.clear(); }
+
+private:
+  struct Entry {
+    RCShdPtr<BrBrowsable> type;
+    RCShdPtr<BrDndHandler> handler;
+  };
+
+  Vector<Entry> entries_;
 };
 
 } // namespace Qv

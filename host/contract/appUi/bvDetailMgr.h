@@ -1,14 +1,12 @@
 #pragma once
 
 #include "brBrowsable.h"
-#include "uiResHolder.h"
+#include "uiLabel.h"
+#include "uiPane.h"
+#include "uiResTable.h"
+#include "uiTextEditor.h"
 
 namespace Qv {
-
-class UiContainer;
-class UiLabel;
-class UiPane;
-class UiTextEditor;
 
 /// Builds a detail page, field by field, from a table of resources.
 class QV_EXPORT BvDetailMgr : public RCBase<LkCounter<int>> {
@@ -16,8 +14,8 @@ protected:
   ~BvDetailMgr() override;
 
 public:
-  /// Hands over the item on show; the manager shows the host's own information about it.
-  virtual void setBrowsable(RCShdPtr<BrBrowsable> const& item) = 0;
+  /// Hands over the item on show, of which the manager shows the thumbnail in the icon pane.
+  virtual void setBrowsable(RCShdPtr<BrBrowsable> const& item);
 
   /// Builds the page container described under `name`. @param parent null for a page of its own.
   static RCShdPtr<BvDetailMgr> create(RCShdPtr<UiContainer> const& parent, char const* name,
@@ -30,10 +28,18 @@ public:
   /// Adds the text editor described under `name` to the fields as the next value.
   RCShdPtr<UiTextEditor> createAndAddValueTextEditor(char const* name, UiResTable const* resources);
 
-  /// The pane that holds the fields.
+  /// The pane that holds the fields, a title before each value.
   RCShdPtr<UiPane> getGeneralInfoPane();
   /// The pane meant for the item's icon.
   RCShdPtr<UiPane> getIconPane();
+
+private:
+  explicit BvDetailMgr(RCShdPtr<UiContainer> const& page);
+
+  RCShdPtr<UiContainer> page_;
+  RCShdPtr<UiPane> generalInfoPane_;
+  RCShdPtr<UiPane> iconPane_;
+  RCShdPtr<BrBrowsable> browsable_;
 };
 
 } // namespace Qv

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "qvExport.h"
+#include "oPtr.h"
+#include "uiResTable.h"
 
 namespace Qv {
-
-class UiResTable;
 
 /// Holds the table of resources that its widgets are made from.
 class QV_EXPORT UiResHolder {
@@ -12,10 +11,10 @@ public:
   virtual ~UiResHolder();
 
   /// The table lives as long as the holder; null when there is none.
-  UiResTable const* getResTable() const { return resTable_; }
+  UiResTable const* getResTable() const { return resTable_.get(); }
 
 protected:
-  UiResTable const* resTable_ = nullptr;
+  OPtr<UiResTable> resTable_;
 };
 
 } // namespace Qv

@@ -1,3 +1,4 @@
+#include "brDndRegistry.h"
 #include "hostBrRegistry.h"
 #include "inInit.imp.h"
 
@@ -13,7 +14,10 @@ template <> InInit<QvInit::appUi>::InInit() : InPackageInit("appUi") {
   addDependency(InInit<QvInit::ui>::getType());
 }
 
-template <> void InInit<QvInit::appUi>::uninitialize() { HostBrRegistry::getInstance().clear(); }
+template <> void InInit<QvInit::appUi>::uninitialize() {
+  BrDndRegistry::getInstance().clear();
+  HostBrRegistry::getInstance().clear();
+}
 
 template class InInit<QvInit::appUi>;
 

@@ -42,6 +42,13 @@ RCShdPtr<WsManagedImage> HostBrRegistry::getIcon(std::string const& key) const {
   return found == icons_.end() ? RCShdPtr<WsManagedImage>() : found->second;
 }
 
+OPtr<BrView> HostBrRegistry::createDetailView(RCShdPtr<BrBrowsable> const& item) const {
+  for (View const& entry : views_)
+    if (entry.role == BrView::DETAIL && entry.view->understands(item))
+      return entry.view->clone();
+  return OPtr<BrView>();
+}
+
 void HostBrRegistry::clear() {
   thumbnails_.clear();
   icons_.clear();

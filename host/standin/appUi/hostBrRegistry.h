@@ -17,6 +17,8 @@ public:
   BrServer& getServer(std::string const& scheme) const;
   /// The image that draws items of that type; null when there is none.
   RCShdPtr<WsManagedImage> getIcon(std::string const& key) const;
+  /// A new clone of the view that shows items like this in detail; null when there is none.
+  OPtr<BrView> createDetailView(RCShdPtr<BrBrowsable> const& item) const;
   void clear();
 
   void registerServer(OPtr<BrServer> server) override;

@@ -5,6 +5,7 @@
 
 #include <boost/dll/shared_library.hpp>
 #include <dlfcn.h>
+#include <string_view>
 
 namespace Qv {
 
@@ -51,8 +52,13 @@ HostModule::HostModule(fs::path const& file) {
   Vector<InPackageInit*> const added(after.begin() + std::ptrdiff_t(before.size()), after.end());
   if (added.empty())
     throw HostError("the module \"" + file.string() + "\" registers no package");
-  for (InPackageInit* const package : added)
+  for (InPackageInit* const package : added) {
+    for (InPackageInit const* const other : before)
+      if (std::string_view(other->getName()) == package->getName())
+        throw HostError("the module \"" + file.string() + "\" registers a package \"" +
+                        package->getName() + "\", which exists already");
     manager.initialize(*package);
+  }
 }
 
 HostModule::~HostModule() = default;

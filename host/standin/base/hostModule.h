@@ -11,8 +11,8 @@ namespace Qv {
 class QV_EXPORT HostModule {
 public:
   /// Loads the file and initialises each package that it registers.
-  /// @throws HostError when there is no such file, it is no shared library, or it registers no
-  /// package. Whatever a package throws passes. Nothing stays loaded then.
+  /// @throws HostError when there is no such file, it is no shared library, it registers no package
+  /// or one that exists already. Whatever a package throws passes. Nothing stays loaded then.
   explicit HostModule(std::filesystem::path const& file);
   /// Uninitialises all packages, so that the host lets go of the module's objects, and unloads it.
   ~HostModule();

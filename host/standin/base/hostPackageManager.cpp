@@ -66,10 +66,6 @@ void HostPackageManager::uninitializeAll() {
 
 void HostPackageManager::add(InPackageInit& package) {
   HostJournal::getInstance().record("InPackageInit::registerPackage", package.getName());
-  for (InPackageInit const* const other : packages_)
-    if (std::string(other->getName()) == package.getName())
-      throw HostError(std::string("a package named \"") + package.getName() +
-                      "\" is registered already");
   packages_.push_back(&package);
 }
 

@@ -20,6 +20,7 @@ public:
   /// Uninitialises in reverse order. The registries of the host let go of all they hold.
   void uninitializeAll();
 
+  /// Refuses nothing: this is called while a library is loaded, when nobody can be told.
   void add(InPackageInit& package);
   void remove(InPackageInit& package) noexcept;
 

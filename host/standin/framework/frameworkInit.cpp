@@ -1,3 +1,4 @@
+#include "hostActRegistry.h"
 #include "inInit.imp.h"
 
 namespace Qv {
@@ -7,6 +8,10 @@ template <> InInit<QvInit::framework>::InInit() : InPackageInit("framework") {
   addDependency(InInit<QvInit::base>::getType());
   addDependency(InInit<QvInit::resmgt>::getType());
   addDependency(InInit<QvInit::internalAPI>::getType());
+}
+
+template <> void InInit<QvInit::framework>::uninitialize() {
+  HostActRegistry::getInstance().clear();
 }
 
 template class InInit<QvInit::framework>;

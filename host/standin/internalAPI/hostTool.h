@@ -14,7 +14,7 @@ struct HostToolFacts {
   bool active = true;
   bool internal = false;
   bool superTool = false;
-  std::array<std::string, 3> infoTexts;
+  std::array<std::string, 3> infoTexts{};
 };
 
 /// A registered tool.

@@ -1,17 +1,38 @@
 #include "pbrInstances.h"
 
 #include "ixMemory.h"
+#include "pbrDraggedItems.h"
 #include "pbrToolBrowsable.h"
+#include "pbrToolDndHandler.h"
+#include "pbrViewBrowsable.h"
+#include "pbrViewDndHandler.h"
 #include "piTool.h"
+#include "snSelection.h"
 
 namespace Qv {
+
+template void RCBasePtr<PiNodeDndInterface const>::dump(std::ostream& os) const;
+template void RCBasePtr<PbrToolDndHandler>::dump(std::ostream& os) const;
+template void RCBasePtr<PbrViewBrowsable>::dump(std::ostream& os) const;
+template void RCBasePtr<PbrViewDndHandler>::dump(std::ostream& os) const;
 
 template RCShdPtr<RCSWCount<LkCounter<int>>>::~RCShdPtr();
 template RCShdPtr<BrChildrenQuery>::~RCShdPtr();
 template RCShdPtr<PbrToolBrowsable>::~RCShdPtr();
+template RCShdPtr<PbrViewBrowsable>::~RCShdPtr();
+template RCShdPtr<PbrToolDndHandler>::~RCShdPtr();
+template RCShdPtr<PbrViewDndHandler>::~RCShdPtr();
 template RCShdPtr<PiTool const>::~RCShdPtr();
+template RCShdPtr<PiDndTool const>::~RCShdPtr();
+template RCShdPtr<PiNodeDndInterface const>::~RCShdPtr();
 template RCShdPtr<WsManagedImage>::~RCShdPtr();
 template RCShdPtr<IxMemory>::~RCShdPtr();
+template RCShdPtr<SnItem>::~RCShdPtr();
+template RCShdPtr<SnItem const>::~RCShdPtr();
+template RCShdPtr<SnItemBasic<RCShdPtr<PiNodeDndInterface const>>>::~RCShdPtr();
+template RCShdPtr<SnItemBasic<UiViewIdentifier>>::~RCShdPtr();
+template RCShdPtr<SnSelection>::~RCShdPtr();
+template RCShdPtr<SnParts>::~RCShdPtr();
 
 template class RCStrongBasePtr<BrBrowsables, LkCounter<int>>;
 template class RCStrongBasePtr<Names, LkCounter<int>>;
@@ -35,5 +56,8 @@ template class IteratorSTL<BrBrowsables, RCStrongPtr<BrBrowsables>, IteratorAcce
 template class IteratorSTL<Names, RCStrongPtr<Names>, IteratorAccessorPassthrough>;
 template class RCPvtEngPtr<BrBrowsablesEngine>;
 template class RCPvtEngPtr<NamesEngine>;
+
+template class SnItemBasic<RCShdPtr<PiNodeDndInterface const>>;
+template class SnItemBasic<UiViewIdentifier>;
 
 } // namespace Qv

@@ -2,11 +2,18 @@
 
 #include "pbrInstances.h"
 
+#include "brDndRegistry.h"
 #include "brRegistry.h"
 #include "inBuildInfo.h"
 #include "inInit.imp.h"
+#include "pbrActions.h"
 #include "pbrToolBrowsable.h"
+#include "pbrToolDndHandler.h"
 #include "pbrToolServer.h"
+#include "pbrToolView.h"
+#include "pbrViewBrowsable.h"
+#include "pbrViewDndHandler.h"
+#include "pbrViewServer.h"
 #include "uiIconRegistry.h"
 
 namespace Qv {
@@ -58,14 +65,30 @@ LiString const PbrToolBrowsable::CategoryId("Tool Category");
 LiString const PbrToolBrowsable::SuperToolId("Super Tool");
 LiString const PbrToolBrowsable::ToolId("Tool");
 
+LiString const PbrViewBrowsable::FolderId("Views Folder");
+LiString const PbrViewBrowsable::ViewsId("View");
+
+OsFilePath const PbrToolView::ResourceFile(std::string("bvTool.xml"));
+
 template <> void PackageInit::initialize() {
   InBuildInfoUtil::registerInfo(OPtr<InBuildInfo>(new LibraryBuildInfo));
 
   UiIconRegistry& icons = UiIconRegistry::getInstance();
   BrRegistry& browser = BrRegistry::getInstance();
-
   OPtr<BrServer> toolServer(new PbrToolServer);
-  browser.registerServer(std::move(toolServer));
+  OPtr<BrServer> viewServer(new PbrViewServer);
+  {
+    RCShdPtr<PbrToolBrowsable> const toolType = PbrToolBrowsable::createBrowsableType();
+    RCShdPtr<PbrToolDndHandler> const toolHandler(new PbrToolDndHandler);
+    BrDndRegistry::getInstance().addHandler(toolType, toolHandler);
+    RCShdPtr<PbrViewBrowsable> const viewType = PbrViewBrowsable::createBrowsableType();
+    RCShdPtr<PbrViewDndHandler> const viewHandler(new PbrViewDndHandler);
+    BrDndRegistry::getInstance().addHandler(viewType, viewHandler);
+
+    browser.registerView(OPtr<BrView>(new PbrToolView), LiString(BrView::DETAIL));
+    browser.registerServer(std::move(toolServer));
+    browser.registerServer(std::move(viewServer));
+  }
 
   auto const registerIcon = [&](LiString const& key, OsFilePath const& file) {
     browser.registerIcon(key, icons.loadImage(file), LiString(""));
@@ -74,10 +97,15 @@ template <> void PackageInit::initialize() {
   registerIcon(PbrToolBrowsable::CategoryId, OsFilePath(std::string("folder.tif")));
   registerIcon(PbrToolBrowsable::ToolId, OsFilePath(std::string("tool.tif")));
   registerIcon(PbrToolBrowsable::SuperToolId, OsFilePath(std::string("supertool.tif")));
+  registerIcon(PbrViewBrowsable::FolderId, OsFilePath(std::string("folder.tif")));
+  registerIcon(PbrViewBrowsable::ViewsId, OsFilePath(std::string("view.tif")));
   registerIcon(LiString("ToolsSchemeIcon"), schemeIconPath);
+  registerIcon(LiString("ViewsSchemeIcon"), schemeIconPath);
+
+  registerBrowserActions();
 }
 
-template <> void PackageInit::uninitialize() {}
+template <> void PackageInit::uninitialize() { unregisterBrowserActions(); }
 
 template class InInit<QvInit::pluginBrowserQvmodule>;
 

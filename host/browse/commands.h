@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Qv {
+
+/// What a person asked for beside the command itself.
+struct Request {
+  std::string scheme;
+  std::string path;
+  /// The items of a command that takes several.
+  std::vector<std::string> paths;
+  std::string action;
+  /// Levels below the item; all without a value.
+  std::optional<int> depth;
+  bool unsorted = false;
+  /// Only the items at the scheme's item depth.
+  bool itemsOnly = false;
+  bool noWorkspace = false;
+  /// The widgets as well.
+  bool dump = false;
+  /// JSON for a machine instead of text for a person.
+  bool json = false;
+};
+
+// The commands print on stdout and throw what the host or the module throws.
+
+void showSchemes(Request const& request);
+void listChildren(Request const& request);
+void showTree(Request const& request);
+void showItem(Request const& request);
+void showStartup(Request const& request);
+void showPackages(Request const& request);
+void listActions(Request const& request);
+void runAction(Request const& request);
+/// @throws HostError after the results when an item cannot be dragged.
+void dragItems(Request const& request);
+/// @throws HostError when no view understands any of the items.
+void showDetail(Request const& request);
+
+} // namespace Qv

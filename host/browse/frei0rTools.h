@@ -1,0 +1,19 @@
+#pragma once
+
+#include "toolSource.h"
+
+#include <filesystem>
+
+namespace Qv {
+
+/// Where distributions install frei0r plug-ins.
+inline constexpr char frei0rDirectory[] = "/usr/lib/frei0r-1";
+
+/// Reads the frei0r plug-ins of a directory, its *.so files, in order of their names. A plug-in is
+/// a tool: it is named after its file, its category is its type, its texts are its own name, its
+/// explanation, and its author with its version, and its tooltip lists its parameters. Each plug-in
+/// is loaded, asked and unloaded. One that cannot be read becomes a warning.
+/// @throws HostError when there is no such directory or no *.so file in it.
+ToolSource readFrei0rTools(std::filesystem::path const& directory);
+
+} // namespace Qv

@@ -1,0 +1,170 @@
+#include "commands.h"
+#include "frei0rTools.h"
+#include "hostError.h"
+#include "hostJournal.h"
+#include "hostModule.h"
+#include "hostResources.h"
+#include "toolCatalogue.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fmt/format.h>
+
+namespace fs = std::filesystem;
+
+namespace Qv {
+
+namespace {
+
+constexpr int Success = 0;
+constexpr int Failure = 1;
+constexpr int Usage = 2;
+
+/// The folder above `bin`, where this program lies beside the libraries and the resources.
+fs::path installation() { return fs::read_symlink("/proc/self/exe").parent_path().parent_path(); }
+
+/// What the command line says.
+struct CommandLine {
+  fs::path module = installation() / "lib" / "libQVpluginBrowser.qvmodule";
+  std::vector<std::string> tools;
+  Request request;
+  void (*command)(Request const&) = &showTree;
+};
+
+void declare(CLI::App& app, CommandLine& line) {
+  Request& request = line.request;
+  app.set_version_flag("--version", "qvbrowse " QV_VERSION);
+  app.fallthrough();
+  app.footer(
+      "Without a command, the trees of all schemes are shown. --module and --tools may stand "
+      "after a command as well.");
+  app.add_option("--module", line.module, "The module file to load")->type_name("FILE");
+  app.add_option("--tools", line.tools,
+                 "Where the tools come from, repeatable: frei0r, frei0r:DIR or a JSON catalogue")
+      ->type_name("SOURCE");
+  app.require_subcommand(0, 1);
+
+  auto const addCommand = [&](char const* name, char const* help, void (*command)(Request const&)) {
+    CLI::App* const subcommand = app.add_subcommand(name, help);
+    subcommand->add_flag("--json", request.json, "Print JSON for a machine");
+    subcommand->callback([&line, command] { line.command = command; });
+    return subcommand;
+  };
+  auto const addItem = [&](CLI::App* subcommand, bool pathRequired) {
+    subcommand->add_option("SCHEME", request.scheme, "The name of the scheme")->required();
+    subcommand->add_option("PATH", request.path, "The path of the item; \"\" is the root")
+        ->required(pathRequired);
+  };
+
+  app.add_flag("--json", request.json, "Print JSON for a machine");
+  addCommand("schemes", "Show the schemes and their columns", &showSchemes);
+
+  CLI::App* const ls = addCommand("ls", "List the children of an item", &listChildren);
+  addItem(ls, false);
+  ls->add_flag("--unsorted", request.unsorted, "Keep the order of the query");
+  ls->add_option_function<std::string>(
+        "--filter", [&](std::string const& filter) { request.itemsOnly = filter == "items"; },
+        "Which children: all, or the items at the scheme's item depth")
+      ->check(CLI::IsMember({"all", "items"}))
+      ->type_name("all|items");
+
+  CLI::App* const tree = addCommand("tree", "Show the tree below an item", &showTree);
+  addItem(tree, false);
+  tree->add_option("--depth", request.depth, "How many levels below the item")
+      ->check(CLI::NonNegativeNumber);
+
+  addItem(addCommand("show", "Show one item", &showItem), true);
+  addCommand("startup", "Show what the module did to the host while it started", &showStartup);
+
+  addItem(addCommand("actions", "List the actions for an item", &listActions), false);
+  CLI::App* const action = addCommand("run-action", "Perform an action on an item", &runAction);
+  action->add_option("NAME", request.action, "The name of the action")->required();
+  addItem(action, true);
+  action->add_flag("--no-workspace", request.noWorkspace, "Run without a workspace");
+  auto const addItems = [&](CLI::App* subcommand) {
+    subcommand->add_option("SCHEME", request.scheme, "The name of the scheme")->required();
+    subcommand->add_option("PATH", request.paths, "The paths of the items")->required();
+  };
+  addItems(addCommand("drag", "Drag items out of the browser", &dragItems));
+  CLI::App* const detail =
+      addCommand("detail", "Show items on one detail page, one after the other", &showDetail);
+  addItems(detail);
+  detail->add_flag("--dump", request.dump, "Show the widgets as well");
+
+  addCommand("packages", "Show the packages and their build information", &showPackages);
+}
+
+/// The views that this program offers where no source names any.
+ToolSource ownViews() {
+  ToolSource source;
+  source.views = {{"browser", "Asset Browser", "The trees of all schemes"},
+                  {"toolDetail", "Tool Detail", "The detail page of a tool"},
+                  {"startupJournal", "Start-up Journal", "What the module did while it started"},
+                  {"packages", "Packages", "The packages and their build information"}};
+  return source;
+}
+
+/// Reads all sources before the first one is registered.
+void registerTools(std::vector<std::string> const& names) {
+  std::vector<ToolSource> sources;
+  for (std::string const& name : names) {
+    if (name == "frei0r")
+      sources.push_back(readFrei0rTools(frei0rDirectory));
+    else if (name.starts_with("frei0r:"))
+      sources.push_back(readFrei0rTools(name.substr(std::strlen("frei0r:"))));
+    else
+      sources.push_back(readToolCatalogue(name));
+  }
+  bool const viewsGiven = std::any_of(sources.begin(), sources.end(), [](ToolSource const& source) {
+    return !source.views.empty();
+  });
+  if (!viewsGiven)
+    sources.push_back(ownViews());
+  for (ToolSource const& source : sources) {
+    for (std::string const& warning : source.warnings)
+      fmt::print(stderr, "qvbrowse: {}\n", warning);
+    registerToolSource(source);
+  }
+}
+
+void run(CommandLine& line) {
+  fs::path const resources = installation() / "share" / "qvbrowse";
+  HostResources::getInstance().setDirectory(resources);
+  if (line.tools.empty())
+    line.tools = {fs::exists(frei0rDirectory) ? "frei0r" : resources / "sampleCatalogue.json"};
+  registerTools(line.tools);
+
+  HostJournal::getInstance().start();
+  HostModule const module(line.module);
+  HostJournal::getInstance().stop();
+
+  line.command(line.request);
+  if (std::fflush(stdout) != 0)
+    throw HostError(fmt::format("cannot write the result: {}", std::strerror(errno)));
+}
+
+} // namespace
+
+} // namespace Qv
+
+int main(int argc, char** argv) {
+  using namespace Qv;
+
+  CLI::App app("Browses the schemes that a module adds to the asset browser.", "qvbrowse");
+  CommandLine line;
+  try {
+    declare(app, line);
+    app.parse(argc, argv);
+  } catch (CLI::ParseError const& error) {
+    return app.exit(error) == Success ? Success : Usage;
+  }
+  try {
+    run(line);
+    return Success;
+  } catch (std::exception const& error) {
+    fmt::print(stderr, "qvbrowse: {}\n", error.what());
+    return Failure;
+  }
+}

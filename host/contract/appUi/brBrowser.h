@@ -1,0 +1,16 @@
+#pragma once
+
+#include "rcBase.h"
+
+namespace Qv {
+
+/// A browser on the screen.
+class QV_EXPORT BrBrowser : public RCBase<LkCounter<int>> {
+public:
+  BrBrowser();
+
+protected:
+  ~BrBrowser() override;
+};
+
+} // namespace Qv

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "uiPane.h"
+#include "uiResTable.h"
+
+namespace Qv {
+
+/// A pane that other panes share.
+class QV_EXPORT UiSplitPane : public UiPane {
+public:
+  enum Orientation : int {};
+
+  /// @param parent null for a pane of its own. @param resources null for the standard look.
+  static RCShdPtr<UiSplitPane> create(RCShdPtr<UiContainer> const& parent, char const* name,
+                                      UiResTable const* resources);
+
+  void setOrientation(Orientation orientation);
+  /// Shows these panes and no others. @param sizes one number a pane; null shares the room evenly.
+  void setPanes(Vector<RCShdPtr<UiPane>> const& panes, Vector<float> const* sizes);
+  /// Opens one of the panes. Returns false when it is none of them.
+  bool openPane(RCShdPtr<UiPane> const& pane);
+
+  Orientation getOrientation() const { return orientation_; }
+  Vector<float> const& getSizes() const { return sizes_; }
+  /// Null as long as none has been opened.
+  RCShdPtr<UiPane> const& getOpenPane() const { return openPane_; }
+
+protected:
+  ~UiSplitPane() override;
+
+private:
+  explicit UiSplitPane(std::string const& name);
+
+  Orientation orientation_{};
+  Vector<float> sizes_;
+  RCShdPtr<UiPane> openPane_;
+};
+
+} // namespace Qv

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "containers.h"
+#include "liString.h"
+#include "snSelection.h"
+
+namespace Qv {
+
+/// Something a person can do with what is selected.
+class QV_EXPORT ActAction {
+public:
+  virtual ~ActAction();
+
+protected:
+  friend class HostActRegistry;
+
+  /// Whether the action is offered for these items.
+  virtual bool inputValid(RCShdPtr<SnItem const> const& first,
+                          RCShdPtr<SnItem const> const& second) const = 0;
+  virtual void performAction(RCShdPtr<SnItem const> const& first,
+                             RCShdPtr<SnItem const> const& second,
+                             RCShdPtr<SnSelection> const& selection) const = 0;
+  /// Appends the options that the action offers; returns how many.
+  virtual int enumOptions(RCShdPtr<SnItem const> const& first, RCShdPtr<SnItem const> const& second,
+                          Vector<LiString>& options) const = 0;
+
+public:
+  virtual LiString getName() = 0;
+  virtual std::string getDisplayString() const;
+  virtual std::string getGroup() const;
+  virtual std::string getCompositeName() const;
+
+protected:
+  ActAction();
+};
+
+} // namespace Qv

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "piTool.h"
+#include "rcShdPtr.h"
+
+namespace Qv {
+
+/// A plug-in node that can be dragged.
+class QV_EXPORT PiNodeDndInterface : public RCBase<LkCounter<int>> {
+protected:
+  ~PiNodeDndInterface() override;
+
+public:
+  /// The registry name of the tool that arrives where the node is dropped.
+  virtual std::string getToolName() const = 0;
+};
+
+/// The draggable form of a plug-in tool.
+class QV_EXPORT PiDndTool : public PiNodeDndInterface {
+protected:
+  ~PiDndTool() override;
+
+public:
+  /// Null when the tool cannot be dragged, as is when there is none.
+  static RCShdPtr<PiDndTool const> create(RCShdPtr<PiTool const> const& tool);
+};
+
+} // namespace Qv

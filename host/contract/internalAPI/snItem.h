@@ -1,0 +1,46 @@
+#pragma once
+
+#include "rcShdPtr.h"
+
+namespace Qv {
+
+/// The optional parts of a selection item.
+class QV_EXPORT SnParts : public RCBase<int> {
+protected:
+  ~SnParts() override;
+};
+
+/// An item of a selection. Counted without atomics, so it stays on the thread that made it.
+class QV_EXPORT SnItem : public RCBase<int> {
+public:
+  class Snapshot;
+
+protected:
+  ~SnItem() override;
+
+public:
+  /// A new item equal to this one, owned by the caller.
+  virtual SnItem* clone() const = 0;
+  /// Whether both stand for the same thing.
+  virtual bool isEqual(SnItem const& other) const = 0;
+  /// Writes a description; the base class writes the item's class on a line of its own.
+  virtual void dump(std::ostream& os) const;
+  virtual RCShdPtr<Snapshot> snapshot() const;
+
+protected:
+  virtual RCShdPtr<SnItem> restore() const;
+
+  explicit SnItem(RCShdPtr<SnParts> const& parts);
+  SnItem(SnItem const& other);
+
+private:
+  RCShdPtr<SnParts> parts_;
+};
+
+/// The saved state of an item.
+class QV_EXPORT SnItem::Snapshot : public RCBase<int> {
+protected:
+  ~Snapshot() override;
+};
+
+} // namespace Qv

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "containers.h"
+#include "snItem.h"
+
+namespace Qv {
+
+/// A collection of selection items. Counted without atomics, like its items.
+class QV_EXPORT SnSelection : public RCBase<int> {
+protected:
+  ~SnSelection() override;
+
+public:
+  /// In the order in which they were added.
+  virtual Vector<RCShdPtr<SnItem const>> const& getItems() const = 0;
+  virtual void clear() = 0;
+  /// Adds the item, of which the selection keeps its own reference.
+  virtual void addItem(RCShdPtr<SnItem const> const& item) = 0;
+
+  /// A new, empty selection.
+  static RCShdPtr<SnSelection> create();
+};
+
+} // namespace Qv

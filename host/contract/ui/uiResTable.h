@@ -1,0 +1,39 @@
+#pragma once
+
+#include "coRgbColorTyped.h"
+#include "osFilePath.h"
+#include "qvExport.h"
+
+#include <map>
+#include <optional>
+#include <string>
+
+namespace Qv {
+
+/// What widgets are made from, by name, as a resource file describes it.
+class QV_EXPORT UiResTable {
+public:
+  enum Kind { Page, Label, TextEditor };
+
+  struct Resource {
+    Kind kind;
+    std::string text;
+    /// In pixels; 0 leaves a side to the layout.
+    int width;
+    int height;
+    std::optional<CoRgbColorTyped<float>> background;
+  };
+
+  /// Reads a resource file from the resource directory.
+  /// @throws HostError when there is no such file or it has a fault.
+  explicit UiResTable(OsFilePath const& file);
+
+  /// @throws HostError when the file describes no resource of that name or one of another kind.
+  Resource const& get(Kind kind, std::string const& name) const;
+
+private:
+  std::string file_;
+  std::map<std::string, Resource> resources_;
+};
+
+} // namespace Qv

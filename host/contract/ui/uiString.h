@@ -1,0 +1,19 @@
+#pragma once
+
+#include "qvExport.h"
+
+#include <string>
+
+namespace Qv {
+
+/// A text on the screen.
+class QV_EXPORT UiString {
+public:
+  void setString(char const* text);
+  std::string const& getString() const { return text_; }
+
+private:
+  std::string text_;
+};
+
+} // namespace Qv

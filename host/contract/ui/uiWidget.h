@@ -1,0 +1,44 @@
+#pragma once
+
+#include "coRgbColorTyped.h"
+#include "containers.h"
+#include "rcShdPtr.h"
+
+#include <map>
+#include <string>
+
+namespace Qv {
+
+/// A part of the user interface. A widget holds its children.
+class QV_EXPORT UiWidget : public RCBase<LkCounter<int>> {
+protected:
+  ~UiWidget() override;
+
+public:
+  /// The colour property of what lies behind the widget's content.
+  static char const* const BackgroundColor;
+
+  virtual void setColor(char const* property, CoRgbColorTyped<float> const& color);
+
+  std::string const& getName() const { return name_; }
+  /// In pixels; 0 leaves a side to the layout.
+  int getWidth() const { return width_; }
+  int getHeight() const { return height_; }
+  void setSize(int width, int height);
+  /// The colours that have been set, by property.
+  std::map<std::string, CoRgbColorTyped<float>> const& getColors() const { return colors_; }
+  Vector<RCShdPtr<UiWidget>> const& getChildren() const { return children_; }
+
+protected:
+  explicit UiWidget(std::string const& name);
+
+  Vector<RCShdPtr<UiWidget>> children_;
+
+private:
+  std::string name_;
+  int width_ = 0;
+  int height_ = 0;
+  std::map<std::string, CoRgbColorTyped<float>> colors_;
+};
+
+} // namespace Qv

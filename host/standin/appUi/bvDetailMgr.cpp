@@ -1,0 +1,82 @@
+#include "bvDetailMgr.h"
+
+#include "hostJournal.h"
+
+namespace Qv {
+
+namespace {
+
+/// Makes the widget that the table describes under `name`.
+template <class Widget>
+RCShdPtr<Widget> makeWidget(UiResTable::Kind kind, char const* name, UiResTable const* resources) {
+  if (!resources)
+    RCExUtil::throwExNullPtrOf<UiResTable const*>();
+  UiResTable::Resource const& resource = resources->get(kind, name);
+  RCShdPtr<Widget> const widget(new Widget(name));
+  widget->setSize(resource.width, resource.height);
+  if (resource.background)
+    widget->setColor(UiWidget::BackgroundColor, *resource.background);
+  if constexpr (std::is_same_v<Widget, UiLabel>)
+    widget->getLabel().setString(resource.text.c_str());
+  if constexpr (std::is_same_v<Widget, UiTextEditor>)
+    widget->setString(resource.text);
+  return widget;
+}
+
+} // namespace
+
+BvDetailMgr::BvDetailMgr(RCShdPtr<UiContainer> const& page)
+    : page_(page), generalInfoPane_(new UiPane("GeneralInfo")), iconPane_(new UiPane("Icon")) {
+  page_->add(iconPane_);
+  page_->add(generalInfoPane_);
+}
+
+BvDetailMgr::~BvDetailMgr() = default;
+
+void BvDetailMgr::setBrowsable(RCShdPtr<BrBrowsable> const& item) {
+  HostJournal::getInstance().record("BvDetailMgr::setBrowsable", item ? item->getPath() : "");
+  browsable_ = item;
+  iconPane_->setImage(item ? item->getImage(int(BrBrowsable::THUMBNAIL), {128, 128})
+                           : RCShdPtr<WsManagedImage>());
+}
+
+RCShdPtr<BvDetailMgr> BvDetailMgr::create(RCShdPtr<UiContainer> const& parent, char const* name,
+                                          UiResTable const* resources) {
+  HostJournal::getInstance().record("BvDetailMgr::create", name);
+  RCShdPtr<UiContainer> const page = makeWidget<UiContainer>(UiResTable::Page, name, resources);
+  RCShdPtr<BvDetailMgr> const manager(new BvDetailMgr(page));
+  if (parent)
+    parent->add(page);
+  return manager;
+}
+
+RCShdPtr<UiLabel> BvDetailMgr::createAndAddTitleLabel(char const* name,
+                                                      UiResTable const* resources) {
+  HostJournal::getInstance().record("BvDetailMgr::createAndAddTitleLabel", name);
+  RCShdPtr<UiLabel> const label = makeWidget<UiLabel>(UiResTable::Label, name, resources);
+  generalInfoPane_->add(label);
+  return label;
+}
+
+RCShdPtr<UiLabel> BvDetailMgr::createAndAddValueLabel(char const* name,
+                                                      UiResTable const* resources) {
+  HostJournal::getInstance().record("BvDetailMgr::createAndAddValueLabel", name);
+  RCShdPtr<UiLabel> const label = makeWidget<UiLabel>(UiResTable::Label, name, resources);
+  generalInfoPane_->add(label);
+  return label;
+}
+
+RCShdPtr<UiTextEditor> BvDetailMgr::createAndAddValueTextEditor(char const* name,
+                                                                UiResTable const* resources) {
+  HostJournal::getInstance().record("BvDetailMgr::createAndAddValueTextEditor", name);
+  RCShdPtr<UiTextEditor> const editor =
+      makeWidget<UiTextEditor>(UiResTable::TextEditor, name, resources);
+  generalInfoPane_->add(editor);
+  return editor;
+}
+
+RCShdPtr<UiPane> BvDetailMgr::getGeneralInfoPane() { return generalInfoPane_; }
+
+RCShdPtr<UiPane> BvDetailMgr::getIconPane() { return iconPane_; }
+
+} // namespace Qv

@@ -1,0 +1,47 @@
+#include "hostViewFactory.h"
+
+#include "hostError.h"
+#include "hostJournal.h"
+#include "iteratorSTL.imp.h"
+
+namespace Qv {
+
+Iterator<LiString> UiViewFactory::getViews() {
+  HostJournal::getInstance().record("UiViewFactory::getViews");
+  using Names = Vector<LiString>;
+  RCStrongPtr<Names> const names(new Names);
+  for (HostViewFactory::View const& view : HostViewFactory::getInstance().getViews())
+    names->push_back(view.name);
+  using Engine = IteratorSTL<Names, RCStrongPtr<Names>, IteratorAccessorPassthrough>;
+  return Iterator<LiString>(RCPvtEngPtr<IteratorImp<LiString>>(new Engine(names)));
+}
+
+LiString UiViewFactory::getViewLabel(LiString const& name) {
+  HostJournal::getInstance().record("UiViewFactory::getViewLabel", name);
+  std::string const* const label = HostViewFactory::getInstance().findLabel(name);
+  return label ? LiString(*label) : name;
+}
+
+HostViewFactory& HostViewFactory::getInstance() {
+  static HostViewFactory factory;
+  return factory;
+}
+
+void HostViewFactory::addView(View const& view) {
+  requireComponent(view.name, "view name");
+  if (!labels_.emplace(view.name, view.label).second)
+    throw HostError("a view named \"" + view.name + "\" is registered already");
+  views_.push_back(view);
+}
+
+void HostViewFactory::clear() {
+  views_.clear();
+  labels_.clear();
+}
+
+std::string const* HostViewFactory::findLabel(std::string const& name) const {
+  auto const found = labels_.find(name);
+  return found == labels_.end() ? nullptr : &found->second;
+}
+
+} // namespace Qv

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "containers.h"
+#include "uiViewFactory.h"
+
+#include <string>
+#include <unordered_map>
+
+namespace Qv {
+
+/// Keeps the views that UiViewFactory tells of.
+class QV_EXPORT HostViewFactory {
+public:
+  struct View {
+    std::string name;
+    std::string label;
+  };
+
+  static HostViewFactory& getInstance();
+
+  /// Adds a view after the existing ones.
+  /// @throws HostError when the name is no single path component or there is such a view.
+  void addView(View const& view);
+  void clear();
+
+  Vector<View> const& getViews() const { return views_; }
+  /// The label of the view of that name; null when there is no such view.
+  std::string const* findLabel(std::string const& name) const;
+
+private:
+  Vector<View> views_;
+  std::unordered_map<std::string, std::string> labels_;
+};
+
+} // namespace Qv

@@ -1,0 +1,113 @@
+#include "uiResTable.h"
+
+#include "hostError.h"
+#include "hostJournal.h"
+#include "hostResources.h"
+
+#include <algorithm>
+#include <charconv>
+#include <fmt/format.h>
+#include <pugixml.hpp>
+
+namespace Qv {
+
+namespace {
+
+constexpr char const* kindNames[] = {"page", "label", "textEditor"};
+
+/// Reads the elements of one resource file; every fault names the file and the resource.
+class ResourceReader {
+public:
+  explicit ResourceReader(std::string file) : file_(std::move(file)) {}
+
+  std::map<std::string, UiResTable::Resource> read(std::filesystem::path const& path) {
+    pugi::xml_document document;
+    pugi::xml_parse_result const result = document.load_file(path.c_str());
+    if (result.status == pugi::status_file_not_found)
+      fail(fmt::format("there is no such file in \"{}\"", path.parent_path().string()));
+    if (!result)
+      fail(fmt::format("it is no XML at byte {}: {}", result.offset, result.description()));
+    pugi::xml_node const root = document.document_element();
+    if (std::string_view(root.name()) != "resources")
+      fail(fmt::format("its root is <{}> instead of <resources>", root.name()));
+
+    std::map<std::string, UiResTable::Resource> resources;
+    for (pugi::xml_node const element : root.children()) {
+      std::string const name = element.attribute("name").value();
+      if (name.empty())
+        fail(fmt::format("a <{}> has no name", element.name()));
+      if (!resources.emplace(name, readResource(element, name)).second)
+        fail(fmt::format("\"{}\" is described twice", name));
+    }
+    return resources;
+  }
+
+private:
+  [[noreturn]] void fail(std::string const& reason) const {
+    throw HostError(fmt::format("the resource file \"{}\" cannot be used: {}", file_, reason));
+  }
+
+  UiResTable::Resource readResource(pugi::xml_node const& element, std::string const& name) const {
+    auto const* const kind =
+        std::find(std::begin(kindNames), std::end(kindNames), std::string_view(element.name()));
+    if (kind == std::end(kindNames))
+      fail(fmt::format("\"{}\" is a <{}>, which is no kind of resource", name, element.name()));
+    UiResTable::Resource resource = {UiResTable::Kind(kind - std::begin(kindNames)), "", 0, 0,
+                                     std::nullopt};
+    for (pugi::xml_attribute const attribute : element.attributes()) {
+      std::string_view const key = attribute.name();
+      std::string_view const value = attribute.value();
+      if (key == "text")
+        resource.text = value;
+      else if (key == "width")
+        resource.width = readNumber(name, key, value, 10);
+      else if (key == "height")
+        resource.height = readNumber(name, key, value, 10);
+      else if (key == "background")
+        resource.background = readColor(name, value);
+      else if (key != "name")
+        fail(fmt::format("\"{}\" has an unknown attribute {}", name, key));
+    }
+    return resource;
+  }
+
+  int readNumber(std::string const& name, std::string_view key, std::string_view text,
+                 int base) const {
+    int number = 0;
+    auto const [end, error] = std::from_chars(text.begin(), text.end(), number, base);
+    if (error != std::errc() || end != text.end() || number < 0)
+      fail(fmt::format("\"{}\" has the {} \"{}\", which is no number", name, key, text));
+    return number;
+  }
+
+  CoRgbColorTyped<float> readColor(std::string const& name, std::string_view text) const {
+    if (text.size() != 7 || text[0] != '#')
+      fail(fmt::format("\"{}\" has the background \"{}\" instead of #rrggbb", name, text));
+    auto const component = [&](std::size_t at) {
+      return float(readNumber(name, "background", text.substr(at, 2), 16)) / 255;
+    };
+    return {component(1), component(3), component(5)};
+  }
+
+  std::string file_;
+};
+
+} // namespace
+
+UiResTable::UiResTable(OsFilePath const& file) : file_(file.getChars()) {
+  HostJournal::getInstance().record("UiResTable::load", file_);
+  resources_ = ResourceReader(file_).read(HostResources::getInstance().locate(file_));
+}
+
+UiResTable::Resource const& UiResTable::get(Kind kind, std::string const& name) const {
+  auto const found = resources_.find(name);
+  if (found == resources_.end())
+    throw HostError(fmt::format("the resource file \"{}\" describes no {} \"{}\"", file_,
+                                kindNames[kind], name));
+  if (found->second.kind != kind)
+    throw HostError(fmt::format("the resource file \"{}\" describes \"{}\" as a {}, not as a {}",
+                                file_, name, kindNames[found->second.kind], kindNames[kind]));
+  return found->second;
+}
+
+} // namespace Qv

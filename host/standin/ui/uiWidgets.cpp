@@ -1,0 +1,50 @@
+#include "uiLabel.h"
+#include "uiPane.h"
+#include "uiTextEditor.h"
+
+namespace Qv {
+
+char const* const UiWidget::BackgroundColor = "background";
+
+UiWidget::UiWidget(std::string const& name) : name_(name) {}
+
+UiWidget::~UiWidget() = default;
+
+void UiWidget::setColor(char const* property, CoRgbColorTyped<float> const& color) {
+  colors_[property] = color;
+}
+
+void UiWidget::setSize(int width, int height) {
+  width_ = width;
+  height_ = height;
+}
+
+void UiString::setString(char const* text) { text_ = text; }
+
+UiLabel::UiLabel(std::string const& name) : UiWidget(name) {}
+
+UiLabel::~UiLabel() = default;
+
+UiString& UiLabel::getLabel() const { return label_; }
+
+UiTextEditor::UiTextEditor(std::string const& name) : UiWidget(name) {}
+
+UiTextEditor::~UiTextEditor() = default;
+
+void UiTextEditor::setString(LiString const& text) { text_ = text; }
+
+void UiTextEditor::setEditable(bool editable) { editable_ = editable; }
+
+UiPane::UiPane(std::string const& name) : UiWidget(name) {}
+
+UiPane::~UiPane() = default;
+
+void UiPane::add(RCShdPtr<UiWidget> const& widget) { children_.push_back(widget); }
+
+void UiPane::setImage(RCShdPtr<WsManagedImage> const& image) { image_ = image; }
+
+UiContainer::UiContainer(std::string const& name) : UiPane(name) {}
+
+UiContainer::~UiContainer() = default;
+
+} // namespace Qv

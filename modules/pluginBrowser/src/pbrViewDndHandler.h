@@ -1,0 +1,30 @@
+#pragma once
+
+#include "pbrInstances.h"
+
+#include "brDndHandler.h"
+
+namespace Qv {
+
+/// Lets views be dragged out of the view scheme. Nothing can be dropped or cut.
+class QV_EXPORT PbrViewDndHandler : public BrDndHandler {
+public:
+  PbrViewDndHandler();
+  ~PbrViewDndHandler() override;
+
+  bool willPopulateSelection(RCShdPtr<BrBrowsable> const& item) override;
+  /// Adds the identifier of the item's view, whether the view factory knows it or not.
+  /// @throws ExNullPtr when the carrier or its selection is null.
+  void populateSelection(RCShdPtr<BrBrowsable> const& item,
+                         RCShdPtr<DrCarrier> const& carrier) override;
+  bool willConsumeSelection(RCShdPtr<BrBrowsable> const& item,
+                            RCShdPtr<DrCarrier> const& carrier) override;
+  void consumeSelection(RCShdPtr<BrBrowsable> const& item, RCShdPtr<DrCarrier> const& carrier,
+                        RCShdPtr<SnSelection> const& selection) override;
+  bool willCut(RCShdPtr<BrBrowsable> const& item) override;
+
+protected:
+  void addUiViewItem(LiString const& viewName, RCShdPtr<DrCarrier> const& carrier) const;
+};
+
+} // namespace Qv

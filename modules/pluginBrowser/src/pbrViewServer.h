@@ -1,0 +1,22 @@
+#pragma once
+
+#include "pbrInstances.h"
+
+#include "brServer.h"
+
+namespace Qv {
+
+/// The server of the view scheme: its name, its columns, and the node for a path.
+class QV_EXPORT PbrViewServer : public BrServer {
+public:
+  PbrViewServer();
+  ~PbrViewServer() override;
+
+  BrServer* clone() const override;
+  /// @throws ExProgramAborted when the path has two or more components. @param message stays.
+  RCShdPtr<BrNode> getNode(LiString const& path, LiString& message) override;
+  LiString getSchemeName() const override;
+  bool isObservable() const override;
+};
+
+} // namespace Qv

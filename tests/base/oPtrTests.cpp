@@ -1,0 +1,66 @@
+#include "allocations.h"
+#include "nullPointee.h"
+#include "oPtr.h"
+
+namespace Qv {
+namespace {
+
+struct Owned {
+  static inline int living = 0;
+
+  Owned() { ++living; }
+  virtual ~Owned() { --living; }
+};
+struct Special : Owned {
+  std::string text = std::string(100, 'x');
+};
+
+class OPtrTest : public NoLeaks {
+protected:
+  ~OPtrTest() override { EXPECT_EQ(Owned::living, 0); }
+};
+
+TEST_F(OPtrTest, passingByValueHandsTheObjectOver) {
+  auto const consume = [](OPtr<Owned> owner) { return owner.get(); };
+  auto const hand = [](Owned* object) -> OPtrRet<Owned> { return OPtrRet<Owned>(object); };
+  auto* const object = new Owned;
+  OPtr<Owned> sender = hand(object);
+  EXPECT_EQ(sender.get(), object);
+  EXPECT_EQ(consume(std::move(sender)), object);
+  EXPECT_FALSE(sender);
+  EXPECT_EQ(Owned::living, 0);
+  static_assert(!std::is_copy_constructible_v<OPtr<Owned>>);
+}
+
+TEST_F(OPtrTest, assignmentDeletesTheOldObject) {
+  OPtr<Owned> owner(new Owned);
+  OPtr<Owned> other(new Owned);
+  Owned const* const kept = other.get();
+  owner = std::move(other);
+  EXPECT_EQ(owner.get(), kept);
+  EXPECT_FALSE(other);
+  EXPECT_EQ(Owned::living, 1);
+
+  auto& self = owner;
+  owner = std::move(self);
+  EXPECT_EQ(owner.get(), kept);
+
+  owner = OPtr<Owned>();
+  EXPECT_EQ(Owned::living, 0);
+}
+
+TEST_F(OPtrTest, convertsToAnOwnerThroughTheBase) {
+  OPtr<Special> special(new Special);
+  OPtr<Owned> const owner = std::move(special);
+  EXPECT_FALSE(special);
+  EXPECT_TRUE(owner);
+}
+
+TEST_F(OPtrTest, nullDereferenceNamesThePointerType) {
+  OPtr<Special> const null;
+  EXPECT_EQ(nullPointeeOf([&] { *null; }), "Qv::(anonymous namespace)::Special*");
+  EXPECT_EQ(nullPointeeOf([&] { null->text.clear(); }), "Qv::(anonymous namespace)::Special*");
+}
+
+} // namespace
+} // namespace Qv

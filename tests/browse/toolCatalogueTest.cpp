@@ -1,0 +1,181 @@
+#include "toolCatalogue.h"
+#include "hostError.h"
+#include "hostToolRegistry.h"
+#include "hostTtServer.h"
+#include "hostViewFactory.h"
+#include "temporaryDirectory.h"
+
+#include <gmock/gmock.h>
+
+namespace Qv {
+
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+std::string refusal(std::filesystem::path const& file) {
+  try {
+    readToolCatalogue(file);
+  } catch (HostError const& error) {
+    return error.what();
+  }
+  return "it was accepted";
+}
+
+struct Refused {
+  char const* name;
+  char const* text;
+  char const* place;
+  char const* reason;
+};
+
+void PrintTo(Refused const& refused, std::ostream* stream) { *stream << refused.name; }
+
+Refused const Faults[] = {
+    {"NothingAtAll", "", "line 1, column 1", "end of input"},
+    {"CutOff", "{\n  \"views\": [\n", "line 3, column 1", "end of input"},
+    {"LastComma", "{\n  \"tools\": [],\n}", "line 3, column 1", "'}'"},
+    {"ColumnInCharacters", "{\"views\": [{\"name\": \"äöü\", x}]}", "line 1, column 28", "literal"},
+    {"NoUtf8", "{\"views\": \"\xff\"}", "line 1, column 12", "UTF-8"},
+    {"NumberTooLarge", "{\n\"tools\": 1e999}", "line 2, column 14", "overflow"},
+    {"SecondValue", "{}\n{}", "line 2, column 1", "end of input"},
+
+    {"NoObject", "[]", "the root", "found array"},
+    {"UnknownKey", R"({"tool": []})", "/tool", "unknown"},
+    {"NoArray", R"({"views": {}})", "/views", "found object"},
+    {"RepeatedKey", R"({"tools": [], "tools": []})", "/tools", "before"},
+    {"RepeatedKeyDeepDown",
+     R"({"views": [{"name": "v"}, {"name": "w", "label": "", "name": "x"}]})", "/views/1/name",
+     "before"},
+
+    {"CategoryOfWrongType", R"({"categories": ["a", 1]})", "/categories/1", "found number"},
+    {"CategoryWithSlash", R"({"categories": ["a/b"]})", "/categories/0", "\"a/b\" holds"},
+    {"CategoryEmpty", R"({"categories": [""]})", "/categories/0", "empty"},
+    {"CategoryNotListed",
+     R"({"categories": ["a"], "tools": [{"name": "t", "category": "a"},
+                                        {"name": "t", "category": "b"}]})",
+     "/tools/1/category", "\"b\" is not listed"},
+
+    {"ToolNoObject", R"({"tools": [null]})", "/tools/0", "found null"},
+    {"ToolWithoutName", R"({"tools": [{"category": "c"}]})", "/tools/0/name", "missing"},
+    {"ToolWithoutCategory", R"({"tools": [{"name": "t"}]})", "/tools/0/category", "missing"},
+    {"ToolNameEmpty", R"({"tools": [{"name": "", "category": "c"}]})", "/tools/0/name", "empty"},
+    {"ToolWithSlash", R"({"tools": [{"name": "/", "category": "c"}]})", "/tools/0/name", "holds"},
+    {"ToolCategoryEmpty", R"({"tools": [{"name": "t", "category": ""}]})", "/tools/0/category",
+     "empty"},
+    {"ToolWithUnknownKey", R"({"tools": [{"name": "t", "category": "c", "a/b~": 1}]})",
+     "/tools/0/a~1b~0", "unknown"},
+    {"FlagOfWrongType", R"({"tools": [{"name": "t", "category": "c", "active": 1}]})",
+     "/tools/0/active", "found number"},
+    {"TwoTexts", R"({"tools": [{"name": "t", "category": "c", "texts": ["", ""]}]})",
+     "/tools/0/texts", "found 2"},
+    {"FourTexts", R"({"tools": [{"name": "t", "category": "c", "texts": ["", "", "", ""]}]})",
+     "/tools/0/texts", "found 4"},
+    {"TextOfWrongType", R"({"tools": [{"name": "t", "category": "c", "texts": ["", "", []]}]})",
+     "/tools/0/texts/2", "found array"},
+    {"TooltipOfWrongType", R"({"tools": [{"name": "t", "category": "c", "tooltip": true}]})",
+     "/tools/0/tooltip", "found boolean"},
+
+    {"ViewWithoutName", R"({"views": [{"name": "v"}, {"label": "w"}]})", "/views/1/name",
+     "missing"},
+    {"ViewWithSlash", R"({"views": [{"name": "v/w"}]})", "/views/0/name", "holds"},
+    {"ViewRepeated", R"({"views": [{"name": "v"}, {"name": "w"}, {"name": "v"}]})", "/views/2/name",
+     "\"v\" before"},
+    {"LabelOfWrongType", R"({"views": [{"name": "v", "label": null}]})", "/views/0/label",
+     "found null"},
+};
+
+class ToolCatalogueFaults : public TemporaryDirectory,
+                            public testing::WithParamInterface<Refused> {};
+
+TEST_P(ToolCatalogueFaults, AreNamedWithFileAndPlace) {
+  std::filesystem::path const file = write("catalogue.json", GetParam().text);
+  EXPECT_THAT(refusal(file), AllOf(HasSubstr("\"" + file.string() + "\""),
+                                   HasSubstr(std::string(" at ") + GetParam().place + ": "),
+                                   HasSubstr(GetParam().reason), Not(HasSubstr("exception"))));
+}
+
+INSTANTIATE_TEST_SUITE_P(, ToolCatalogueFaults, testing::ValuesIn(Faults),
+                         [](auto const& test) { return std::string(test.param.name); });
+
+class ToolCatalogue : public TemporaryDirectory {
+protected:
+  ~ToolCatalogue() override {
+    HostToolRegistry::getInstance().clear();
+    HostTtServer::getInstance().clear();
+    HostViewFactory::getInstance().clear();
+  }
+};
+
+TEST_F(ToolCatalogue, ThatCannotBeReadIsRefused) {
+  std::filesystem::path const missing = directory_ / "missing.json";
+  EXPECT_THAT(refusal(missing), AllOf(HasSubstr(missing.string()), HasSubstr("No such file")));
+  EXPECT_THAT(refusal(directory_), AllOf(HasSubstr(directory_.string()), HasSubstr("directory")));
+}
+
+TEST_F(ToolCatalogue, HasDefaultsForAllButNames) {
+  ToolSource const source =
+      readToolCatalogue(write("catalogue.json", R"({"tools": [{"name": "b", "category": "y"},
+                                            {"name": "a", "category": "x"},
+                                            {"name": "b", "category": "y"}],
+                                  "views": [{"name": "v"}]})"));
+  EXPECT_THAT(source.categories, ElementsAre("y", "x"));
+  ASSERT_EQ(source.tools.size(), 3U);
+  ToolSource::Tool const& tool = source.tools[1];
+  EXPECT_EQ(tool.facts.name, "a");
+  EXPECT_EQ(tool.facts.category, "x");
+  EXPECT_TRUE(tool.facts.active);
+  EXPECT_FALSE(tool.facts.internal);
+  EXPECT_FALSE(tool.facts.superTool);
+  EXPECT_THAT(tool.facts.infoTexts, ElementsAre("", "", ""));
+  EXPECT_EQ(tool.tooltip, "");
+  ASSERT_EQ(source.views.size(), 1U);
+  EXPECT_EQ(source.views[0].label, "v");
+  EXPECT_EQ(source.views[0].tooltip, "");
+}
+
+TEST_F(ToolCatalogue, IsTakenAsItSays) {
+  ToolSource const source = readToolCatalogue(write("catalogue.json", R"({
+    "categories": ["z", "a", "z"],
+    "tools": [{"name": "t", "category": "a", "active": false, "superTool": true,
+               "texts": ["one", "two", "\u0033"], "tooltip": "tool tip"},
+              {"name": "u", "category": "z", "internal": true}],
+    "views": [{"name": "v", "label": "", "tooltip": "view tip"}]})"));
+  EXPECT_THAT(source.categories, ElementsAre("z", "a", "z"));
+  ASSERT_EQ(source.tools.size(), 2U);
+  HostToolFacts const& facts = source.tools[0].facts;
+  EXPECT_FALSE(facts.active);
+  EXPECT_FALSE(facts.internal);
+  EXPECT_TRUE(facts.superTool);
+  EXPECT_TRUE(source.tools[1].facts.internal);
+  EXPECT_FALSE(source.tools[1].facts.superTool);
+  EXPECT_THAT(facts.infoTexts, ElementsAre("one", "two", "3"));
+  ASSERT_EQ(source.views.size(), 1U);
+  EXPECT_EQ(source.views[0].label, "");
+
+  registerToolSource(source);
+  HostToolRegistry& registry = HostToolRegistry::getInstance();
+  EXPECT_EQ(registry.getCategories().getCardinality(), 3);
+  EXPECT_TRUE(registry.isSuperTool("t"));
+  RCShdPtr<PiTool const> const tool = registry.getTool("t");
+  ASSERT_TRUE(tool);
+  EXPECT_EQ(tool->getInfoText2(), "two");
+  ASSERT_EQ(HostViewFactory::getInstance().getViews().size(), 1U);
+  EXPECT_EQ(HostViewFactory::getInstance().getViews()[0].name, "v");
+  EXPECT_EQ(HostTtServer::getInstance().lookupTooltip("t"), "tool tip");
+  EXPECT_EQ(HostTtServer::getInstance().lookupTooltip("v"), "view tip");
+}
+
+TEST_F(ToolCatalogue, SampleIsWithoutFault) {
+  ToolSource const source =
+      readToolCatalogue(std::filesystem::path(RESOURCE_DIR) / "sampleCatalogue.json");
+  EXPECT_FALSE(source.tools.empty());
+  EXPECT_FALSE(source.views.empty());
+}
+
+} // namespace
+
+} // namespace Qv
