@@ -18,7 +18,8 @@ std::string colorText(CoRgbColorTyped<float> const& color) {
 
 /// The widget itself, without its children.
 Json describeWidget(RCShdPtr<UiWidget> const& widget) {
-  Json json = {{"class", typeName(typeid(*widget.get()))}, {"name", widget->getName()}};
+  UiWidget const& self = *widget;
+  Json json = {{"class", typeName(typeid(self))}, {"name", self.getName()}};
   if (auto const label = widget.dynamicCast<UiLabel>())
     json["text"] = label->getLabel().getString();
   if (auto const editor = widget.dynamicCast<UiTextEditor>()) {

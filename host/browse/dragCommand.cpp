@@ -30,8 +30,9 @@ Json drag(RCShdPtr<BrBrowsable> const& item) {
   RCShdPtr<BrDndHandler> const handler = BrDndRegistry::getInstance().findHandler(*item);
   if (!handler)
     return json;
+  BrDndHandler const& found = *handler;
   RCShdPtr<DrCarrier> const carrier(new DrCarrier(SnSelection::create()));
-  json["handler"] = typeName(typeid(*handler.get()));
+  json["handler"] = typeName(typeid(found));
   json["accepted"] = handler->willPopulateSelection(item);
   json["cut"] = handler->willCut(item);
   json["copy"] = handler->willCopy(item);

@@ -55,15 +55,17 @@ std::vector<std::string> slots(std::type_info const& type) {
   std::vector<std::string> names;
   // The offset to the top and the type information come first.
   for (ElfW(Addr) place = table + 2 * sizeof(void*); place < table + size; place += sizeof(void*)) {
-    std::string name = functions[place];
-    if (name == "__cxa_pure_virtual")
-      name = "pure";
-    else if (name.empty())
-      name.push_back('~');
-    bool const secondDestructor =
-        !names.empty() && name == names.back() && name.find('~') != std::string::npos;
-    if (!secondDestructor)
-      names.push_back(name);
+    std::string const& function = functions[place];
+    // Sanitizers let a table end in empty words.
+    if (function.empty() && !names.empty())
+      continue;
+    bool const destructor = function.empty() || function.find('~') != std::string::npos;
+    if (destructor && !names.empty() && names.back() == "~")
+      continue;
+    if (destructor)
+      names.emplace_back("~");
+    else
+      names.push_back(function == "__cxa_pure_virtual" ? "pure" : function);
   }
   return names;
 }

@@ -7,9 +7,8 @@
 namespace Qv {
 
 /// The slots of a class's virtual table in the loaded libraries, in order: the name of the function
-/// in each, without namespace and ABI tags; "pure" for a pure virtual one. A destructor, which
-/// takes two slots, stands once, and is "~" in an abstract class, where the slots are empty.
-/// @throws std::runtime_error when no library exports the table.
+/// in each, without namespace and ABI tags; "pure" for a pure virtual one; "~" for a destructor,
+/// which takes two slots. @throws std::runtime_error when no library exports the table.
 std::vector<std::string> slots(std::type_info const& type);
 
 /// A demangled symbol as the tests write it.

@@ -50,11 +50,14 @@ protected:
   RCBase(RCBase const& /*other*/) noexcept {}
   /// The references belong to the objects, not to their values: both counts stay.
   RCBase& operator=(RCBase const& /*other*/) noexcept { return *this; }
-  virtual ~RCBase() = default;
+  virtual ~RCBase();
 
 private:
   mutable Counter count_{};
 };
+
+// An instance exports its destructor only when that is defined outside the class.
+template <class Counter> inline RCBase<Counter>::~RCBase() = default;
 
 extern template class QV_EXPORT RCBase<LkCounter<int>>;
 extern template class QV_EXPORT RCBase<int>;

@@ -22,9 +22,8 @@ bool PbrToolView::understands(RCShdPtr<BrBrowsable> const& item) {
          (type == PbrToolBrowsable::CATEGORY && browsable->isSuperTool());
 }
 
-template <class Widget> RCShdPtr<Widget> PbrToolView::getFieldValue(std::size_t field) const {
-  return field < fieldValues_.size() ? fieldValues_[field].checkedCast<Widget>()
-                                     : RCShdPtr<Widget>();
+RCShdPtr<UiWidget> PbrToolView::getFieldValue(std::size_t field) const {
+  return field < fieldValues_.size() ? fieldValues_[field] : RCShdPtr<UiWidget>();
 }
 
 void PbrToolView::setContent(RCShdPtr<BrBrowsable> const& item,
@@ -35,10 +34,11 @@ void PbrToolView::setContent(RCShdPtr<BrBrowsable> const& item,
     tool = PiToolRegistry::getInstance().getTool(browsable->getToolName());
 
   auto const setLabel = [this](std::size_t field, std::string const& text) {
-    getFieldValue<UiLabel>(field)->getLabel().setString(text.c_str());
+    getFieldValue(field).checkedCast<UiLabel>()->getLabel().setString(text.c_str());
   };
   setLabel(0, tool ? tool->getInfoText1() : "");
-  getFieldValue<UiTextEditor>(1)->setString(tool ? LiString(tool->getInfoText2()) : LiString());
+  getFieldValue(1).checkedCast<UiTextEditor>()->setString(tool ? LiString(tool->getInfoText2())
+                                                               : LiString());
   setLabel(2, tool ? tool->getInfoText3() : "");
   char const* state = "";
   if (tool)

@@ -36,7 +36,7 @@ private:
 
   RCShdPtr<BvDetailMgr> buildDetails(UiResTable const* resources);
   /// A field's value; null when it has not been built.
-  template <class Widget> RCShdPtr<Widget> getFieldValue(std::size_t field) const;
+  RCShdPtr<UiWidget> getFieldValue(std::size_t field) const;
 
   Vector<RCShdPtr<UiLabel>> fieldTitles_;
   Vector<RCShdPtr<UiWidget>> fieldValues_;
