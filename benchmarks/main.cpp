@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -20,6 +21,8 @@ public:
 
   void Finalize() override {
     ConsoleReporter::Finalize();
+    // Runs may come in any order; families are numbered as they were registered.
+    std::ranges::sort(results_, {}, &Result::family);
     for (auto const& peer : results_) {
       auto const first = std::ranges::find(results_, peer.group, &Result::group);
       if (first->subject != peer.subject)
@@ -30,6 +33,7 @@ public:
 
 private:
   struct Result {
+    std::int64_t family;
     std::string group;
     std::string subject;
     double time;
@@ -37,17 +41,16 @@ private:
 
   void add(Run const& run) {
     std::string const& name = run.run_name.function_name;
-    auto const slash = name.find('/');
     std::string const& args = run.run_name.args;
+    auto const slash = name.find('/');
     std::string const group = name.substr(0, slash) + (args.empty() ? "" : " over " + args);
-    std::string const subject = name.substr(slash + 1);
     double const time = run.GetAdjustedCPUTime();
     for (auto& result : results_)
-      if (result.group == group && result.subject == subject) {
+      if (result.family == run.family_index && result.group == group) {
         result.time = std::min(result.time, time);
         return;
       }
-    results_.push_back({group, subject, time});
+    results_.push_back({run.family_index, group, name.substr(slash + 1), time});
   }
 
   std::vector<Result> results_;

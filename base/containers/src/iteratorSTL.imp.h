@@ -19,7 +19,7 @@ struct QV_EXPORT IteratorAccessorPassthrough {
 /// @tparam StrongPtr the pointer that shares the container, `RCStrongPtr<Container>`.
 /// @tparam Accessor turns the stored element into the one that is yielded.
 template <class Container, class StrongPtr, class Accessor>
-class QV_EXPORT IteratorSTL : public IteratorImp<typename Container::value_type> {
+class QV_EXPORT IteratorSTL final : public IteratorImp<typename Container::value_type> {
 public:
   using Element = typename Container::value_type;
 

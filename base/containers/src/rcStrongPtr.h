@@ -39,10 +39,17 @@ public:
     }
   }
   RCStrongBasePtr(RCStrongBasePtr const& other) : ptr_(nullptr) { assign(other); }
-  ~RCStrongBasePtr() { release(); }
+  /// The pointee's destructor finds this pointer null.
+  ~RCStrongBasePtr() {
+    T* const ptr = std::exchange(ptr_, nullptr);
+    RCShdPtr<Block> const block = std::move(block_);
+    if (block && block->releaseStrong())
+      delete ptr;
+  }
 
   RCStrongBasePtr& operator=(RCStrongBasePtr const& other) {
-    assign(other);
+    if (this != &other)
+      assign(other);
     return *this;
   }
 
@@ -67,30 +74,22 @@ protected:
   void assign(RCStrongBasePtr const& other) {
     if (ptr_ == other.ptr_ && block_ == other.block_)
       return;
-    // Shared before the old pointee goes: `other` may live inside it.
-    T* const ptr = other.ptr_;
-    RCShdPtr<Block> const block = other.block_;
-    if (ptr && block)
-      block->acquireStrong();
-    release();
-    if (ptr) {
-      if (!block)
+    // The old pointee goes last, when this pointer already holds the new one: `other` may live
+    // inside it, and its destructor may look at this pointer or assign to it.
+    RCStrongBasePtr old;
+    std::swap(old.ptr_, ptr_);
+    std::swap(old.block_, block_);
+    if (other.ptr_) {
+      if (!other.block_)
         RCExUtil::throwExNullPtrOf<Block*>();
-      block_ = block;
-      ptr_ = ptr;
+      other.block_->acquireStrong();
+      block_ = other.block_;
+      ptr_ = other.ptr_;
     }
   }
 
 private:
   using Block = RCSWCount<Counter>;
-
-  /// Leaves this pointer null before the pointee's destructor can look at it.
-  void release() noexcept {
-    T* const ptr = std::exchange(ptr_, nullptr);
-    RCShdPtr<Block> const block = std::move(block_);
-    if (block && block->releaseStrong())
-      delete ptr;
-  }
 
   T* ptr_;
   RCShdPtr<Block> block_;

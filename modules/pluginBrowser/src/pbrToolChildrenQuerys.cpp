@@ -7,7 +7,7 @@ namespace Qv {
 
 PbrToolChildrenQuerys::PbrToolChildrenQuerys(PbrToolBrowsable* browsable,
                                              BrBrowsable::FindFilter filter)
-    : BrChildrenQuery(browsable), browsable_(browsable), filter_(filter), pending_(true) {}
+    : BrChildrenQuery(browsable), browsable_(browsable), filter_(filter) {}
 
 PbrToolChildrenQuerys::~PbrToolChildrenQuerys() = default;
 

@@ -62,7 +62,7 @@ void PbrToolView::buildUi(RCShdPtr<SnSelection> const& /*selection*/) {
 }
 
 RCShdPtr<BvDetailMgr> PbrToolView::buildDetails(UiResTable const* resources) {
-  RCShdPtr<BvDetailMgr> const manager =
+  RCShdPtr<BvDetailMgr> manager =
       BvDetailMgr::create(RCShdPtr<UiContainer>(), "InfoCt", resources);
   for (int field = 0; field < 4; ++field) {
     std::string const titleName = "FieldTitle" + LiStringUtil::convertNb(field);

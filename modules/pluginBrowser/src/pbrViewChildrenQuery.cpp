@@ -8,7 +8,7 @@ namespace Qv {
 
 PbrViewChildrenQuery::PbrViewChildrenQuery(PbrViewBrowsable* browsable,
                                            BrBrowsable::FindFilter filter)
-    : BrChildrenQuery(browsable), browsable_(browsable), filter_(filter), pending_(true) {}
+    : BrChildrenQuery(browsable), browsable_(browsable), filter_(filter) {}
 
 PbrViewChildrenQuery::~PbrViewChildrenQuery() = default;
 

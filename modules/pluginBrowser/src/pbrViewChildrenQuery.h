@@ -24,7 +24,7 @@ public:
 private:
   PbrViewBrowsable* browsable_;
   BrBrowsable::FindFilter filter_;
-  bool pending_;
+  bool pending_ = true;
 };
 
 } // namespace Qv

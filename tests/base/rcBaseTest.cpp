@@ -1,5 +1,5 @@
-#include "allocations.h"
 #include "rcBase.h"
+#include "allocations.h"
 
 namespace Qv {
 namespace {

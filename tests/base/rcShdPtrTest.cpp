@@ -1,6 +1,6 @@
+#include "rcShdPtr.h"
 #include "allocations.h"
 #include "nullPointee.h"
-#include "rcShdPtr.h"
 
 #include <sstream>
 #include <vector>

@@ -1,6 +1,6 @@
+#include "oPtr.h"
 #include "allocations.h"
 #include "nullPointee.h"
-#include "oPtr.h"
 
 namespace Qv {
 namespace {

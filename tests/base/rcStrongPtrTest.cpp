@@ -1,6 +1,6 @@
+#include "rcStrongPtr.h"
 #include "allocations.h"
 #include "nullPointee.h"
-#include "rcStrongPtr.h"
 
 namespace Qv {
 namespace {
@@ -80,24 +80,42 @@ TEST_F(RCStrongPtrTest, assignmentFromWithinThePointee) {
   EXPECT_EQ(Plain::living, 1);
 }
 
-TEST_F(RCStrongPtrTest, pointeeDiesBehindANullPointer) {
-  struct Watcher {
-    RCStrongPtr<Watcher>& holder;
-    int& sightings;
+/// Looks at the pointer that held it when it dies, and may put something else there.
+struct Watcher {
+  RCStrongPtr<Watcher>& holder;
+  bool replaces = false;
 
-    ~Watcher() {
-      if (!holder && holder.getStrongCount() == 0)
-        ++sightings;
-    }
-  };
-  int sightings = 0;
+  ~Watcher() {
+    EXPECT_NE(holder.get(), this);
+    EXPECT_EQ(holder.getStrongCount() > 0, bool(holder));
+    ++died;
+    if (replaces)
+      holder = RCStrongPtr<Watcher>(new Watcher{holder});
+  }
+
+  static inline int died = 0;
+};
+
+TEST_F(RCStrongPtrTest, pointeeDiesBehindAPointerThatHasLetItGo) {
+  Watcher::died = 0;
   {
     RCStrongPtr<Watcher> pointer;
-    pointer = RCStrongPtr<Watcher>(new Watcher{pointer, sightings});
-    pointer = RCStrongPtr<Watcher>(new Watcher{pointer, sightings});
-    EXPECT_EQ(sightings, 1);
+    pointer = RCStrongPtr<Watcher>(new Watcher{pointer});
+    pointer = RCStrongPtr<Watcher>(new Watcher{pointer});
+    EXPECT_EQ(Watcher::died, 1);
   }
-  EXPECT_EQ(sightings, 2);
+  EXPECT_EQ(Watcher::died, 2);
+}
+
+TEST_F(RCStrongPtrTest, pointeeMayReplaceWhatReplacedIt) {
+  Watcher::died = 0;
+  {
+    RCStrongPtr<Watcher> pointer;
+    pointer = RCStrongPtr<Watcher>(new Watcher{pointer, true});
+    pointer = RCStrongPtr<Watcher>(new Watcher{pointer});
+    EXPECT_EQ(Watcher::died, 2);
+  }
+  EXPECT_EQ(Watcher::died, 3);
 }
 
 TEST_F(RCStrongPtrTest, pointeeIsDeletedWhenTheBlockCannotBeAllocated) {

@@ -1,5 +1,5 @@
-#include "allocations.h"
 #include "iterator.h"
+#include "allocations.h"
 #include "nullPointee.h"
 
 #include <array>
