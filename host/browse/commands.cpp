@@ -73,13 +73,16 @@ private:
     return (!depth_ || level < *depth_) && item.hasChildren(AnyChildren, NoOption);
   }
 
+  /// The path is printed where it does not end in what a person reads.
   void printLine(BrBrowsable& item) const {
     auto const style = item.isAContainer() ? fg(fmt::terminal_color::blue) | fmt::emphasis::bold
                                            : fmt::text_style();
-    fmt::print(
-        "{}  {}\n", terminal_.styled(style, printable(getAttribute(item, BrBrowsable::NAME))),
-        terminal_.styled(fmt::emphasis::faint,
-                         fmt::format("[{}]", getAttribute(item, BrBrowsable::BROWSABLE_TYPE))));
+    std::string const name = getAttribute(item, BrBrowsable::NAME);
+    std::string const type = "[" + getAttribute(item, BrBrowsable::BROWSABLE_TYPE) + "]";
+    std::string const path = item.getPath();
+    fmt::print("{}  {}{}\n", terminal_.styled(style, printable(name)),
+               terminal_.styled(fmt::emphasis::faint, printable(type)),
+               path.empty() || path.ends_with(name) ? "" : "  " + printable(path));
   }
 
   void printChildren(BrBrowsable& item, std::string const& indent, int level) const {

@@ -49,6 +49,14 @@ Json describeTree(RCShdPtr<UiWidget> const& widget) {
   return json;
 }
 
+/// The widget that holds this one and all around it.
+RCShdPtr<UiWidget> topOf(RCShdPtr<UiWidget> const& widget) {
+  RCShdPtr<UiWidget> top = widget;
+  while (UiWidget* const parent = top->getParent())
+    top = RCShdPtr<UiWidget>(parent);
+  return top;
+}
+
 /// A value that may be missing, as text.
 std::string textOf(Json const& json, char const* key) {
   auto const found = json.find(key);
@@ -112,9 +120,9 @@ Json DetailPage::show(RCShdPtr<BrBrowsable> const& item) {
 Json DetailPage::dump() const {
   Json widgets = Json::array();
   for (BrDetailView::Page const& page : view_->getPages())
-    widgets.push_back(describeTree(page.widget));
+    widgets.push_back(describeTree(topOf(page.widget)));
   if (view_->getIconPane())
-    widgets.push_back(describeTree(view_->getIconPane()));
+    widgets.push_back(describeTree(topOf(view_->getIconPane())));
   return widgets;
 }
 

@@ -51,7 +51,7 @@ Json drag(RCShdPtr<BrBrowsable> const& item) {
 }
 
 void print(Json const& json) {
-  fmt::print("{}\n", printable(json["path"]));
+  fmt::print("\"{}\"\n", printable(json["path"]));
   if (json["handler"].is_null()) {
     fmt::print("  handler: none\n");
     return;
@@ -61,8 +61,14 @@ void print(Json const& json) {
              yesOrNo(json["copy"]), yesOrNo(json["drop"]));
   if (!json["accepted"])
     return;
-  for (Json const& item : json["items"])
-    fmt::print("  arrives: {}\n{}", printable(item["arrives"]), item["dump"].get<std::string>());
+  if (json["items"].empty())
+    fmt::print("  arrives: nothing\n");
+  for (Json const& item : json["items"]) {
+    fmt::print("  arrives: {}\n", printable(item["arrives"]));
+    std::istringstream dump(item["dump"].get<std::string>());
+    for (std::string line; std::getline(dump, line);)
+      fmt::print("  {}\n", printable(line));
+  }
 }
 
 } // namespace
@@ -85,6 +91,7 @@ void dragItems(Request const& request) {
   else
     for (Json const& json : drags)
       print(json);
+  flushOutput();
   if (!refused.empty())
     throw HostError(
         fmt::format("not to be dragged out of the scheme \"{}\": {}", request.scheme, refused));

@@ -4,11 +4,11 @@
 #include "hostJournal.h"
 #include "hostModule.h"
 #include "hostResources.h"
+#include "output.h"
 #include "toolCatalogue.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <fmt/format.h>
 
@@ -31,6 +31,8 @@ struct CommandLine {
   std::vector<std::string> tools;
   Request request;
   void (*command)(Request const&) = &showTree;
+  /// Whether the command goes on with further paths.
+  bool takesPaths = false;
 };
 
 void declare(CLI::App& app, CommandLine& line) {
@@ -43,8 +45,11 @@ void declare(CLI::App& app, CommandLine& line) {
   app.add_option("--module", line.module, "The module file to load")->type_name("FILE");
   app.add_option("--tools", line.tools,
                  "Where the tools come from, repeatable: frei0r, frei0r:DIR or a JSON catalogue")
-      ->type_name("SOURCE");
+      ->type_name("SOURCE")
+      ->allow_extra_args(false);
   app.require_subcommand(0, 1);
+  // An option of several values would take a path in square brackets for a list.
+  app.allow_extras();
 
   auto const addCommand = [&](char const* name, char const* help, void (*command)(Request const&)) {
     CLI::App* const subcommand = app.add_subcommand(name, help);
@@ -52,8 +57,9 @@ void declare(CLI::App& app, CommandLine& line) {
     subcommand->callback([&line, command] { line.command = command; });
     return subcommand;
   };
-  auto const addItem = [&](CLI::App* subcommand, bool pathRequired) {
-    subcommand->add_option("SCHEME", request.scheme, "The name of the scheme")->required();
+  auto const addItem = [&](CLI::App* subcommand, bool pathRequired, bool schemeRequired = true) {
+    subcommand->add_option("SCHEME", request.scheme, "The name of the scheme")
+        ->required(schemeRequired);
     subcommand->add_option("PATH", request.path, "The path of the item; \"\" is the root")
         ->required(pathRequired);
   };
@@ -68,12 +74,13 @@ void declare(CLI::App& app, CommandLine& line) {
         "--filter", [&](std::string const& filter) { request.itemsOnly = filter == "items"; },
         "Which children: all, or the items at the scheme's item depth")
       ->check(CLI::IsMember({"all", "items"}))
-      ->type_name("all|items");
+      ->type_name("");
 
-  CLI::App* const tree = addCommand("tree", "Show the tree below an item", &showTree);
-  addItem(tree, false);
+  CLI::App* const tree =
+      addCommand("tree", "Show the tree below an item, or of all schemes", &showTree);
+  addItem(tree, false, false);
   tree->add_option("--depth", request.depth, "How many levels below the item")
-      ->check(CLI::NonNegativeNumber);
+      ->check(CLI::Range(0, 1000));
 
   addItem(addCommand("show", "Show one item", &showItem), true);
   addCommand("startup", "Show what the module did to the host while it started", &showStartup);
@@ -85,7 +92,9 @@ void declare(CLI::App& app, CommandLine& line) {
   action->add_flag("--no-workspace", request.noWorkspace, "Run without a workspace");
   auto const addItems = [&](CLI::App* subcommand) {
     subcommand->add_option("SCHEME", request.scheme, "The name of the scheme")->required();
-    subcommand->add_option("PATH", request.paths, "The paths of the items")->required();
+    subcommand->add_option("PATH", request.path, "The path of an item; more may follow")
+        ->required();
+    subcommand->parse_complete_callback([&line] { line.takesPaths = true; });
   };
   addItems(addCommand("drag", "Drag items out of the browser", &dragItems));
   CLI::App* const detail =
@@ -94,6 +103,18 @@ void declare(CLI::App& app, CommandLine& line) {
   detail->add_flag("--dump", request.dump, "Show the widgets as well");
 
   addCommand("packages", "Show the packages and their build information", &showPackages);
+}
+
+/// Takes the arguments that no option took as further paths. @throws CLI::ExtrasError.
+void takePaths(CLI::App const& app, CommandLine& line) {
+  std::vector<std::string> const rest = app.remaining();
+  bool const option = std::any_of(rest.begin(), rest.end(), [](std::string const& argument) {
+    return argument.size() > 1 && argument[0] == '-';
+  });
+  if (!rest.empty() && (option || !line.takesPaths))
+    throw CLI::ExtrasError(rest);
+  line.request.paths = {line.request.path};
+  line.request.paths.insert(line.request.paths.end(), rest.begin(), rest.end());
 }
 
 /// The views that this program offers where no source names any.
@@ -124,7 +145,7 @@ void registerTools(std::vector<std::string> const& names) {
     sources.push_back(ownViews());
   for (ToolSource const& source : sources) {
     for (std::string const& warning : source.warnings)
-      fmt::print(stderr, "qvbrowse: {}\n", warning);
+      fmt::print(stderr, "qvbrowse: {}\n", printable(warning));
     registerToolSource(source);
   }
 }
@@ -141,8 +162,7 @@ void run(CommandLine& line) {
   HostJournal::getInstance().stop();
 
   line.command(line.request);
-  if (std::fflush(stdout) != 0)
-    throw HostError(fmt::format("cannot write the result: {}", std::strerror(errno)));
+  flushOutput();
 }
 
 } // namespace
@@ -157,6 +177,7 @@ int main(int argc, char** argv) {
   try {
     declare(app, line);
     app.parse(argc, argv);
+    takePaths(app, line);
   } catch (CLI::ParseError const& error) {
     return app.exit(error) == Success ? Success : Usage;
   }
@@ -164,7 +185,7 @@ int main(int argc, char** argv) {
     run(line);
     return Success;
   } catch (std::exception const& error) {
-    fmt::print(stderr, "qvbrowse: {}\n", error.what());
+    fmt::print(stderr, "qvbrowse: {}\n", printable(error.what()));
     return Failure;
   }
 }

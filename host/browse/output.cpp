@@ -1,8 +1,12 @@
 #include "output.h"
 
+#include "hostError.h"
+
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <unistd.h>
 
 namespace Qv {
@@ -21,6 +25,11 @@ void printJson(Json const& json) {
   fmt::print("{}\n", json.dump(2, ' ', false, Json::error_handler_t::replace));
 }
 
+void flushOutput() {
+  if (std::fflush(stdout) != 0)
+    throw HostError(fmt::format("cannot write the result: {}", std::strerror(errno)));
+}
+
 Terminal::Terminal() : colours_(isatty(STDOUT_FILENO) && !std::getenv("NO_COLOR")) {}
 
 std::string Terminal::styled(fmt::text_style style, std::string const& text) const {
@@ -34,13 +43,14 @@ void Terminal::printTable(std::vector<std::string> const& heading,
     widths.push_back(width(title));
   for (std::vector<std::string> const& row : rows)
     for (std::size_t column = 0; column < row.size(); ++column)
-      widths[column] = std::max(widths[column], width(row[column]));
+      widths[column] = std::max(widths[column], width(printable(row[column])));
 
   auto const print = [&](std::vector<std::string> const& row, fmt::text_style style) {
     std::string line;
     for (std::size_t column = 0; column < row.size(); ++column) {
-      line += styled(style, row[column]);
-      line.append(widths[column] - width(row[column]) + 2, ' ');
+      std::string const cell = printable(row[column]);
+      line += styled(style, cell);
+      line.append(widths[column] - width(cell) + 2, ' ');
     }
     line.erase(line.find_last_not_of(' ') + 1);
     fmt::print("{}\n", line);
@@ -54,9 +64,14 @@ char const* yesOrNo(bool value) { return value ? "yes" : "no"; }
 
 std::string printable(std::string const& text) {
   std::string result;
-  for (char const character : text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    char const character = text[at];
     auto const byte = static_cast<unsigned char>(character);
-    if (character == '\n')
+    auto const next = static_cast<unsigned char>(at + 1 < text.size() ? text[at + 1] : 0);
+    // The control characters above ASCII are two bytes of UTF-8.
+    if (byte == 0xC2 && next >= 0x80 && next < 0xA0)
+      result += fmt::format("\\x{:02x}", text[++at] & 0xFF);
+    else if (character == '\n')
       result += "\\n";
     else if (byte < 0x20 || byte == 0x7F)
       result += fmt::format("\\x{:02x}", byte);

@@ -12,6 +12,9 @@ using Json = nlohmann::ordered_json;
 /// Writes JSON on stdout. Names come from files: bytes that are no UTF-8 are replaced.
 void printJson(Json const& json);
 
+/// Hands all that was printed to whoever reads it. @throws HostError when that fails.
+void flushOutput();
+
 /// Text on stdout for a person.
 class Terminal {
 public:

@@ -2,6 +2,7 @@
 #include "iteratorSTL.imp.h"
 #include "runTogether.h"
 
+#include <atomic>
 #include <optional>
 #include <utility>
 
@@ -55,13 +56,16 @@ TEST_F(IteratorThreadTest, lastHolderMovesTheEngineThatOthersHaveRead) {
     Engine* const engine = makeEngine();
     It mover{RCPvtEngPtr<IteratorImp<Element>>(engine)};
     auto held = copiesOf(mover);
+    // Relaxed: only the count itself may order the reads before the move.
+    std::atomic<int> released{0};
     runTogether(
         [&](int i) {
           EXPECT_TRUE(std::as_const(*held[i]).atBegin());
           held[i].reset();
+          released.fetch_add(1, std::memory_order_relaxed);
         },
         [&] {
-          while (engine->getRefCount() != 1)
+          while (released.load(std::memory_order_relaxed) != Threads)
             std::this_thread::yield();
           mover.next();
           EXPECT_FALSE(engine->atBegin()) << "moved in place";

@@ -87,10 +87,10 @@ TEST(Exports, holdEveryInstanceAndClass) {
     EXPECT_TRUE(std::any_of(names.begin(), names.end(), [&](std::string const& name) {
       return belongsTo(name, entry);
     })) << entry;
-  for (char const* constant : {"PbrToolBrowsable::FolderId", "PbrToolBrowsable::CategoryId",
-                               "PbrToolBrowsable::SuperToolId", "PbrToolBrowsable::ToolId",
-                               "PbrViewBrowsable::FolderId", "PbrViewBrowsable::ViewsId"})
-    EXPECT_THAT(names, testing::Contains(constant));
+  for (char const* member : {"PbrToolBrowsable::FolderId", "PbrToolBrowsable::CategoryId",
+                             "PbrToolBrowsable::SuperToolId", "PbrToolBrowsable::ToolId",
+                             "PbrViewBrowsable::FolderId", "PbrViewBrowsable::ViewsId"})
+    EXPECT_THAT(names, testing::Contains(member));
   EXPECT_THAT(names, testing::Contains("InInit<QvInit::pluginBrowserQvmodule>::getType()"));
 }
 

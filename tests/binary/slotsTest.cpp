@@ -1,10 +1,13 @@
 #include "pbrInstances.h"
 
 #include "actTypedAction.h"
+#include "bvDetailMgr.h"
+#include "hostActRegistry.h"
 #include "hostBrRegistry.h"
 #include "hostIconRegistry.h"
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
+#include "hostWorkspace.h"
 #include "inBuildInfo.h"
 #include "pbrDraggedItems.h"
 #include "pbrToolBrowsable.h"
@@ -206,7 +209,7 @@ TEST(Slots, ofDetailViews) {
                    "$::externalClose()", "$::buildUi(RCShdPtr<SnSelection> const&)",
                    "BrView::setFullScreen()", "BrView::setFullScreenFocus()", "BrView::map()",
                    "BrView::unMap()", "BrView::mapCb(EvEvent&)", "BrView::unMapCb(EvEvent&)",
-                   "BrView::setFullScreenHandler(CbHandler<EvEvent>*)", "$::setDetailInfo()",
+                   "BrDetailView::setFullScreenHandler(CbHandler<EvEvent>*)", "$::setDetailInfo()",
                    "BrDetailView::getMiniPlayer() const"})));
 }
 
@@ -243,6 +246,26 @@ TEST(Slots, ofTheHostsRegistries) {
               ElementsAreArray({"HostTtServer::lookupTooltip(std::string const&)"}));
   EXPECT_THAT(slots(typeid(HostIconRegistry)),
               ElementsAreArray({"HostIconRegistry::loadImage(OsFilePath const&)"}));
+}
+
+TEST(Slots, ofWhatTheHostHandsOut) {
+  EXPECT_THAT(
+      slots(typeid(HostTool)),
+      ElementsAreArray(inClass("HostTool", {"~", "$::isActive() const", "$::getInfoText1() const",
+                                            "$::getInfoText2() const", "$::getInfoText3() const",
+                                            "$::getName() const"})));
+  EXPECT_THAT(slots(typeid(HostActRegistry)),
+              ElementsAreArray({"HostActRegistry::registerAction(OPtr<ActAction>, "
+                                "ActRegistry::DynamicState)"}));
+  EXPECT_THAT(slots(typeid(HostWorkspace)),
+              ElementsAreArray(
+                  inClass("HostWorkspace", {"~", "$::openViewInWindow(std::string const&, bool)",
+                                            "$::openViewInNewWindow(std::string const&)"})));
+  EXPECT_THAT(slots(typeid(BvDetailMgr)),
+              ElementsAreArray({"~", "BvDetailMgr::setBrowsable(RCShdPtr<BrBrowsable> const&)"}));
+  EXPECT_THAT(
+      slots(typeid(UiLabel)),
+      ElementsAreArray({"~", "UiWidget::setColor(char const*, CoRgbColorTyped<float> const&)"}));
 }
 
 TEST(Slots, ofWhatTheRegistriesKeep) {

@@ -55,17 +55,20 @@ std::vector<std::string> slots(std::type_info const& type) {
   std::vector<std::string> names;
   // The offset to the top and the type information come first.
   for (ElfW(Addr) place = table + 2 * sizeof(void*); place < table + size; place += sizeof(void*)) {
-    std::string const& function = functions[place];
-    // Sanitizers let a table end in empty words.
-    if (function.empty() && !names.empty())
+    bool const written = functions.contains(place);
+    std::string const function = written ? functions[place] : "";
+    // Sanitizers let a table end in words that nothing is written to.
+    if (!written && !names.empty())
       continue;
-    bool const destructor = function.empty() || function.find('~') != std::string::npos;
+    bool const destructor = !written || function.find('~') != std::string::npos;
     if (destructor && !names.empty() && names.back() == "~")
       continue;
     if (destructor)
       names.emplace_back("~");
     else
-      names.push_back(function == "__cxa_pure_virtual" ? "pure" : function);
+      names.push_back(function == "__cxa_pure_virtual" ? "pure"
+                      : function.empty()               ? "hidden"
+                                                       : function);
   }
   return names;
 }

@@ -163,8 +163,8 @@ TEST_F(ToolCatalogue, IsTakenAsItSays) {
   RCShdPtr<PiTool const> const tool = registry.getTool("t");
   ASSERT_TRUE(tool);
   EXPECT_EQ(tool->getInfoText2(), "two");
-  ASSERT_EQ(HostViewFactory::getInstance().getViews().size(), 1U);
-  EXPECT_EQ(HostViewFactory::getInstance().getViews()[0].name, "v");
+  ASSERT_EQ(HostViewFactory::getInstance().getNames().size(), 1U);
+  EXPECT_EQ(HostViewFactory::getInstance().getNames()[0], "v");
   EXPECT_EQ(HostTtServer::getInstance().lookupTooltip("t"), "tool tip");
   EXPECT_EQ(HostTtServer::getInstance().lookupTooltip("v"), "view tip");
 }

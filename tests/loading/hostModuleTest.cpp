@@ -71,7 +71,7 @@ Calls initialisation() {
                  call("BrDndRegistry::addHandler", "Qv::PbrToolBrowsable", "Qv::PbrToolDndHandler"),
                  call("BrDndRegistry::addHandler", "Qv::PbrViewBrowsable", "Qv::PbrViewDndHandler"),
                  call("UiResTable::load", "bvTool.xml"),
-                 call("BrRegistry::registerView", "detail"),
+                 call("BrRegistry::registerView", "detail", "Qv::PbrToolView"),
                  call("BrRegistry::registerServer", "tools"),
                  call("BrRegistry::registerServer", "views")};
   std::vector<std::pair<char const*, char const*>> const icons = {
@@ -145,7 +145,7 @@ TEST_F(LoadedModule, leavesWhenItIsUnloaded) {
   }
 }
 
-TEST_F(LoadedModule, keepsWhatWasRegisteredBeforeAFailure) {
+TEST_F(LoadedModule, losesNothingWhenARegistrationFails) {
   { HostModule const module(PLUGINBROWSERQVMODULE_FILE); }
   std::size_t const first = loading().size() + dependencies.size() + 1;
   std::size_t const count = initialisation().size();
@@ -155,12 +155,35 @@ TEST_F(LoadedModule, keepsWhatWasRegisteredBeforeAFailure) {
     long const before = liveAllocations();
     journal_.failAt(first + index);
     EXPECT_THROW(HostModule const module(PLUGINBROWSERQVMODULE_FILE), HostError);
-    // The call that failed is the last; then all packages are uninitialised.
-    EXPECT_EQ(calls().size(), first + index + 1 + dependencies.size() + 1);
+    EXPECT_EQ(calls().size(), first + index + 1) << "the call that failed is the last";
     EXPECT_EQ(findPackage(), nullptr);
     journal_.start();
     EXPECT_EQ(liveAllocations() - before, 0);
   }
+}
+
+TEST_F(LoadedModule, registersNullImagesToo) {
+  std::filesystem::path const directory = testing::TempDir() + "noIcons";
+  std::filesystem::create_directory(directory);
+  std::filesystem::copy(std::filesystem::path(RESOURCE_DIR) / "bvTool.xml", directory,
+                        std::filesystem::copy_options::overwrite_existing);
+  HostResources::getInstance().setDirectory(directory);
+  HostModule const module(PLUGINBROWSERQVMODULE_FILE);
+  int icons = 0;
+  for (HostJournal::Entry const& entry : journal_.getEntries())
+    icons += entry.operation == "BrRegistry::registerIcon";
+  EXPECT_EQ(icons, 8);
+  EXPECT_EQ(journal_.getEntries().back().key, "Open in Window");
+}
+
+TEST_F(LoadedModule, staysWhenAnotherIsRefused) {
+  HostModule const module(PLUGINBROWSERQVMODULE_FILE);
+  std::string const copy = testing::TempDir() + "copy.qvmodule";
+  std::filesystem::copy(PLUGINBROWSERQVMODULE_FILE, copy,
+                        std::filesystem::copy_options::overwrite_existing);
+  for (std::string const file : {copy.c_str(), EMPTYMODULE_FILE})
+    EXPECT_THROW(HostModule const other(file), HostError);
+  EXPECT_EQ(HostBrRegistry::getInstance().getServers().size(), 2U);
 }
 
 TEST_F(LoadedModule, isRefusedWithTheReason) {

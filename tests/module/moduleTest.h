@@ -3,30 +3,107 @@
 #include "pbrInstances.h"
 
 #include "allocations.h"
-#include "brBrowsable.h"
+#include "assertions.h"
 #include "hostBrRegistry.h"
 #include "hostJournal.h"
+#include "hostPackageManager.h"
+#include "hostResources.h"
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
+#include "hostViewFactory.h"
+#include "nullPointee.h"
+#include "pbrToolBrowsable.h"
+#include "pbrToolServer.h"
+#include "pbrViewBrowsable.h"
+#include "pbrViewServer.h"
+#include "pluginBrowserQvmoduleInit.h"
 
 #include <gmock/gmock.h>
 
 namespace Qv {
 
-/// Starts and ends with empty registries and a journal that is not kept.
+/// Starts and ends with empty registries and a journal that is not kept, and loses no allocation.
 class ModuleTest : public testing::Test {
 protected:
+  ModuleTest() {
+    // The first trace of a thread allocates what the thread then keeps.
+    { SCOPED_TRACE(""); }
+    [[maybe_unused]] static bool const grown = (growRegistries(), true);
+    before_ = liveAllocations();
+    HostResources::getInstance().setDirectory(RESOURCE_DIR);
+  }
   ~ModuleTest() override {
-    HostJournal::getInstance().stop();
-    HostToolRegistry::getInstance().clear();
-    HostTtServer::getInstance().clear();
-    HostBrRegistry::getInstance().clear();
+    clear();
+    // The record of a failure is an allocation too.
+    if (!HasFailure()) {
+      EXPECT_EQ(liveAllocations() - before_, 0) << "allocations were lost";
+    }
+  }
+
+  /// Has the module register all that it contributes, until the test ends.
+  static void initializePackage() {
+    HostPackageManager& manager = HostPackageManager::getInstance();
+    manager.initialize(*manager.find(typeid(InInit<QvInit::pluginBrowserQvmodule>)));
+  }
+
+  RCShdPtr<PbrToolBrowsable> tool(std::string const& path) {
+    return PbrToolBrowsable::create(&toolServer_, path);
+  }
+  RCShdPtr<PbrViewBrowsable> view(std::string const& path) {
+    return PbrViewBrowsable::create(&viewServer_, path);
   }
 
   HostToolRegistry& tools_ = HostToolRegistry::getInstance();
+  HostViewFactory& views_ = HostViewFactory::getInstance();
   HostTtServer& tooltips_ = HostTtServer::getInstance();
   HostJournal& journal_ = HostJournal::getInstance();
+  PbrToolServer toolServer_;
+  PbrViewServer viewServer_;
+
+private:
+  /// Fills every registry once: what is cleared keeps the storage of its elements.
+  void growRegistries() {
+    HostResources::getInstance().setDirectory(RESOURCE_DIR);
+    tools_.addCategory("x");
+    tools_.addTool({.name = "x", .category = "x", .superTool = true});
+    views_.addView({"x", "x"});
+    tooltips_.setTooltip("x", "x");
+    journal_.start();
+    initializePackage();
+    clear();
+  }
+
+  void clear() {
+    journal_.start();
+    journal_.stop();
+    HostPackageManager::getInstance().uninitializeAll();
+    HostBrRegistry::getInstance().clear();
+    HostResources::getInstance().setDirectory("");
+    tools_.clear();
+    views_.clear();
+    tooltips_.clear();
+  }
+
+  long before_ = 0;
 };
+
+constexpr BrBrowsable::FindFilter AllChildren{0};
+constexpr BrBrowsable::FindFilter ItemsOnly{2};
+constexpr BrBrowsable::ChildSearchType AnyChildren{0};
+constexpr BrBrowsable::ChildSearchType ContainerChildren{1};
+constexpr BrBrowsable::ChildSearchOption NoOption{0};
+
+/// Expects that `f` aborts there, without a message.
+template <class F> void expectAbort(F f, std::string const& file, int line) {
+  try {
+    f();
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (ExProgramAborted const& error) {
+    EXPECT_EQ(error.getFile(), "modules\\pluginBrowser\\src\\" + file);
+    EXPECT_EQ(error.getLine(), line);
+    EXPECT_EQ(error.getMessage(), nullptr);
+  }
+}
 
 /// All elements of a sequence.
 template <class T> std::vector<T> collect(Iterator<T> elements) {

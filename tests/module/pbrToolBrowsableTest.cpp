@@ -1,9 +1,5 @@
 #include "moduleTest.h"
 
-#include "assertions.h"
-#include "pbrToolBrowsable.h"
-#include "pbrToolServer.h"
-
 namespace Qv {
 
 namespace {
@@ -11,10 +7,6 @@ namespace {
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
-
-constexpr BrBrowsable::ChildSearchType AnyChildren{0};
-constexpr BrBrowsable::ChildSearchType ContainerChildren{1};
-constexpr BrBrowsable::ChildSearchOption NoOption{0};
 
 class ToolBrowsable : public ModuleTest {
 protected:
@@ -30,12 +22,6 @@ protected:
     tools_.addTool({.name = "lift", .category = "Grade"});
     tools_.addTool({.name = "secret", .category = "Empty", .internal = true});
   }
-
-  RCShdPtr<PbrToolBrowsable> create(std::string const& path) {
-    return PbrToolBrowsable::create(&server_, path);
-  }
-
-  PbrToolServer server_;
 };
 
 TEST_F(ToolBrowsable, isWhatItsPathSays) {
@@ -50,42 +36,22 @@ TEST_F(ToolBrowsable, isWhatItsPathSays) {
     std::vector<std::string> children;
   };
   using Type = PbrToolBrowsable;
-  for (Case const& item : std::vector<Case>{
-           {"",
-            Type::FOLDER,
-            "Tools",
-            false,
-            "Tools Folder",
-            true,
-            false,
-            {"Colour", "Key", "Key", "Empty", "Grade"}},
-           {"//",
-            Type::FOLDER,
-            "Tools",
-            false,
-            "Tools Folder",
-            true,
-            false,
-            {"Colour", "Key", "Key", "Empty", "Grade"}},
-           {"Colour",
-            Type::CATEGORY,
-            "Colour",
-            false,
-            "Tool Category",
-            true,
-            false,
-            {"invert", "Grade", "blur"}},
-           {"Empty", Type::CATEGORY, "Empty", false, "Tool Category", true, false, {}},
-           {"nosuch", Type::CATEGORY, "nosuch", false, "Tool Category", true, false, {}},
-           {"/Grade/", Type::CATEGORY, "Grade", true, "Super Tool", true, true, {"lift"}},
-           {"Colour/invert", Type::TOOL, "invert", false, "Tool", false, true, {}},
-           {"/Colour//Grade", Type::TOOL, "Grade", true, "Super Tool", true, true, {}},
-           {"nosuch/none", Type::TOOL, "none", false, "Tool", false, true, {}},
-       }) {
+  std::vector<std::string> const categories = {"Colour", "Key", "Key", "Empty", "Grade"};
+  std::vector<std::string> const tools = {"invert", "Grade", "blur"};
+  for (Case const& item :
+       {Case{"", Type::FOLDER, "Tools", false, "Tools Folder", true, false, categories},
+        Case{"//", Type::FOLDER, "Tools", false, "Tools Folder", true, false, categories},
+        Case{"Colour", Type::CATEGORY, "Colour", false, "Tool Category", true, false, tools},
+        Case{"Empty", Type::CATEGORY, "Empty", false, "Tool Category", true, false, {}},
+        Case{"nosuch", Type::CATEGORY, "nosuch", false, "Tool Category", true, false, {}},
+        Case{"/Grade/", Type::CATEGORY, "Grade", true, "Super Tool", true, true, {"lift"}},
+        Case{"Colour/invert", Type::TOOL, "invert", false, "Tool", false, true, {}},
+        Case{"/Colour//Grade", Type::TOOL, "Grade", true, "Super Tool", true, true, {}},
+        Case{"nosuch/none", Type::TOOL, "none", false, "Tool", false, true, {}}}) {
     SCOPED_TRACE(item.path);
-    RCShdPtr<PbrToolBrowsable> const browsable = create(item.path);
+    RCShdPtr<PbrToolBrowsable> const browsable = tool(item.path);
     EXPECT_EQ(browsable->getRefCount(), 1);
-    EXPECT_EQ(browsable->getServer(), &server_);
+    EXPECT_EQ(browsable->getServer(), &toolServer_);
     EXPECT_EQ(browsable->getPath(), item.path);
     EXPECT_EQ(browsable->getSchemeName(), "tools");
     EXPECT_EQ(browsable->getToolBrowsableType(), item.type);
@@ -103,16 +69,8 @@ TEST_F(ToolBrowsable, isWhatItsPathSays) {
 }
 
 TEST_F(ToolBrowsable, refusesLongerPaths) {
-  for (char const* path : {"a/b/c", "Colour/invert/x/y"}) {
-    try {
-      create(path);
-      ADD_FAILURE() << path;
-    } catch (ExProgramAborted const& error) {
-      EXPECT_EQ(error.getFile(), "modules\\pluginBrowser\\src\\pbrToolBrowsable");
-      EXPECT_EQ(error.getLine(), 171);
-      EXPECT_EQ(error.getMessage(), nullptr);
-    }
-  }
+  for (char const* path : {"a/b/c", "Colour/invert/x/y"})
+    expectAbort([&] { tool(path); }, "pbrToolBrowsable", 171);
 }
 
 TEST_F(ToolBrowsable, asksTheRegistryOnceAndNeverAgain) {
@@ -126,7 +84,7 @@ TEST_F(ToolBrowsable, asksTheRegistryOnceAndNeverAgain) {
            {"Key/x", {"PiToolRegistry::isSuperTool(x)"}},
        }) {
     journal_.start();
-    RCShdPtr<PbrToolBrowsable> const browsable = create(item.path);
+    RCShdPtr<PbrToolBrowsable> const browsable = tool(item.path);
     browsable->getChildren();
     browsable->isPicklistable();
     browsable->hasChildren(AnyChildren, NoOption);
@@ -135,15 +93,15 @@ TEST_F(ToolBrowsable, asksTheRegistryOnceAndNeverAgain) {
 }
 
 TEST_F(ToolBrowsable, keepsWhatItLearnt) {
-  RCShdPtr<PbrToolBrowsable> const category = create("Grade");
+  RCShdPtr<PbrToolBrowsable> const category = tool("Grade");
   tools_.clear();
   EXPECT_TRUE(category->isSuperTool());
   EXPECT_THAT(collect(category->getChildren()), ElementsAre("lift"));
-  EXPECT_THAT(collect(create("Grade")->getChildren()), IsEmpty());
+  EXPECT_THAT(collect(tool("Grade")->getChildren()), IsEmpty());
 }
 
 TEST_F(ToolBrowsable, givesItsChildNamesAfreshAtEveryCall) {
-  RCShdPtr<PbrToolBrowsable> const folder = create("");
+  RCShdPtr<PbrToolBrowsable> const folder = tool("");
   Iterator<std::string> names = folder->getChildren();
   names.item() = "changed";
   names.end();
@@ -151,28 +109,28 @@ TEST_F(ToolBrowsable, givesItsChildNamesAfreshAtEveryCall) {
 }
 
 TEST_F(ToolBrowsable, equalsItemsOfTheSamePath) {
-  EXPECT_TRUE(create("Colour/blur")->isEqualTo(*create("Colour/blur")));
-  EXPECT_FALSE(create("Colour/blur")->isEqualTo(*create("Key/blur")));
-  EXPECT_FALSE(create("Colour/blur")->isEqualTo(*create("Colour//blur")));
+  EXPECT_TRUE(tool("Colour/blur")->isEqualTo(*tool("Colour/blur")));
+  EXPECT_FALSE(tool("Colour/blur")->isEqualTo(*tool("Key/blur")));
+  EXPECT_FALSE(tool("Colour/blur")->isEqualTo(*tool("Colour//blur")));
 }
 
 TEST_F(ToolBrowsable, answersTheRemainingAttributes) {
-  RCShdPtr<PbrToolBrowsable> const tool = create("Colour/invert");
-  tool->set(int(BrBrowsable::NAME), LiString("other"));
-  tool->set(int(BrBrowsable::NAME), 7LL);
-  EXPECT_EQ(attribute(*tool, BrBrowsable::NAME), "invert");
-  EXPECT_EQ(attribute(*tool, BrBrowsable::ROOT_NAME), "Plugin Registry");
-  EXPECT_EQ(attribute(*tool, BrBrowsable::BROWSABLE_ROLE), "");
+  RCShdPtr<PbrToolBrowsable> const item = tool("Colour/invert");
+  item->set(int(BrBrowsable::NAME), LiString("other"));
+  item->set(int(BrBrowsable::NAME), 7LL);
+  EXPECT_EQ(attribute(*item, BrBrowsable::NAME), "invert");
+  EXPECT_EQ(attribute(*item, BrBrowsable::ROOT_NAME), "Plugin Registry");
+  EXPECT_EQ(attribute(*item, BrBrowsable::BROWSABLE_ROLE), "");
   for (unsigned int const id :
        {BrBrowsable::OWNER, BrBrowsable::LMTIME, BrBrowsable::CREATION_TIME})
-    EXPECT_EQ(attribute(*tool, id), BrBrowsable::NotAvailableString);
+    EXPECT_EQ(attribute(*item, id), BrBrowsable::NotAvailableString);
 
   // Anything else is the base class's answer.
   LiString expected;
-  tool->BrBrowsable::get(4711, &expected);
-  EXPECT_EQ(attribute(*tool, 4711), expected);
+  item->BrBrowsable::get(4711, &expected);
+  EXPECT_EQ(attribute(*item, 4711), expected);
   long long number = -1;
-  tool->get(int(BrBrowsable::NAME), &number);
+  item->get(int(BrBrowsable::NAME), &number);
   EXPECT_EQ(number, 0);
 }
 
@@ -186,7 +144,7 @@ TEST_F(ToolBrowsable, showsTheThumbnailOfItsKind) {
                                             {"Grade", BrRegistry::SuperToolThumbnail},
                                             {"Colour/Grade", BrRegistry::SuperToolThumbnail},
                                             {"Colour/invert", BrRegistry::ToolThumbnail}}) {
-    RCShdPtr<PbrToolBrowsable> const browsable = create(item.path);
+    RCShdPtr<PbrToolBrowsable> const browsable = tool(item.path);
     journal_.start();
     browsable->getImage(int(BrBrowsable::THUMBNAIL), {1, 1});
     EXPECT_THAT(journal_.getEntries(),
@@ -199,12 +157,12 @@ TEST_F(ToolBrowsable, showsTheThumbnailOfItsKind) {
 TEST_F(ToolBrowsable, composesItsTooltip) {
   tooltips_.setTooltip("invert", "Swaps light and dark");
   tooltips_.setTooltip("Colour", "All about colour");
-  EXPECT_EQ(create("Key")->getTooltip(0), "Key");
-  EXPECT_EQ(create("Colour")->getTooltip(0), "Colour<br>All about colour");
-  EXPECT_EQ(create("Colour/invert")->getTooltip(9), "Inverts<br>Swaps light and dark");
-  EXPECT_EQ(create("Colour/blur")->getTooltip(0), "") << "the tool's second text is empty";
+  EXPECT_EQ(tool("Key")->getTooltip(0), "Key");
+  EXPECT_EQ(tool("Colour")->getTooltip(0), "Colour<br>All about colour");
+  EXPECT_EQ(tool("Colour/invert")->getTooltip(9), "Inverts<br>Swaps light and dark");
+  EXPECT_EQ(tool("Colour/blur")->getTooltip(0), "") << "the tool's second text is empty";
   tooltips_.clear();
-  EXPECT_EQ(create("Colour/invert")->getTooltip(0), "Inverts");
+  EXPECT_EQ(tool("Colour/invert")->getTooltip(0), "Inverts");
 }
 
 TEST_F(ToolBrowsable, hasAPrototype) {
@@ -215,6 +173,46 @@ TEST_F(ToolBrowsable, hasAPrototype) {
   EXPECT_EQ(prototype->getPath(), "unknown");
   EXPECT_FALSE(prototype->isSuperTool());
   EXPECT_THAT(collect(prototype->getChildren()), IsEmpty());
+}
+
+/// An item that says itself whether it is a container.
+class OwnContainer final : public PbrToolBrowsable {
+public:
+  OwnContainer(BrServer* server, std::string const& path, bool container)
+      : PbrToolBrowsable(server, path), container_(container) {}
+
+  bool isAContainer() const override { return container_; }
+
+private:
+  bool container_;
+};
+
+TEST_F(ToolBrowsable, asksItselfWhetherItIsAContainer) {
+  for (bool const container : {true, false}) {
+    RCShdPtr<OwnContainer> const item(new OwnContainer(&toolServer_, "Colour", container));
+    EXPECT_EQ(item->hasChildren(AnyChildren, NoOption), container);
+    EXPECT_EQ(item->hasChildren(BrBrowsable::ChildSearchType(2), NoOption), container);
+    EXPECT_EQ(item->isPicklistable(), !container);
+    for (int const filter : {0, 1, 3})
+      EXPECT_EQ(
+          paths(item->getChildren(BrBrowsable::FindFilter(filter))->getNextChildSequence()).empty(),
+          !container);
+  }
+  EXPECT_FALSE(
+      paths(tool("")->getChildren(BrBrowsable::FindFilter(1))->getNextChildSequence()).empty());
+}
+
+TEST_F(ToolBrowsable, passesItsFlagsToTheRegistry) {
+  journal_.start();
+  tool("Colour")->getTooltip(0);
+  EXPECT_THAT(
+      journal_.getEntries(),
+      testing::IsSupersetOf({HostJournal::Entry{"PiToolRegistry::getTools", "Colour", "true"},
+                             HostJournal::Entry{"PiToolRegistry::findTool", "Colour", "false"}}));
+}
+
+TEST_F(ToolBrowsable, equalsAnItemOfAnotherClassAtTheSamePath) {
+  EXPECT_TRUE(tool("graph")->isEqualTo(*view("graph")));
 }
 
 } // namespace

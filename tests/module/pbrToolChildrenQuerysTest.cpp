@@ -1,8 +1,6 @@
 #include "moduleTest.h"
 
 #include "hostError.h"
-#include "pbrToolBrowsable.h"
-#include "pbrToolServer.h"
 
 namespace Qv {
 
@@ -10,9 +8,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr BrBrowsable::FindFilter AllChildren{0};
-constexpr BrBrowsable::FindFilter ItemsOnly{2};
 
 class ToolChildrenQuery : public ModuleTest {
 protected:
@@ -22,21 +17,15 @@ protected:
     for (char const* name : {"zoom", "bend", "twist"})
       tools_.addTool({.name = name, .category = "Warp", .superTool = name == std::string("bend")});
   }
-
-  RCShdPtr<PbrToolBrowsable> create(std::string const& path) {
-    return PbrToolBrowsable::create(&server_, path);
-  }
-
-  PbrToolServer server_;
 };
 
 TEST_F(ToolChildrenQuery, listsTheChildrenOnceInTheOrderOfTheRegistry) {
-  RCShdPtr<PbrToolBrowsable> const folder = create("");
+  RCShdPtr<PbrToolBrowsable> const folder = tool("");
   RCShdPtr<BrChildrenQuery> const query = folder->getChildren(AllChildren);
   Iterator<RCShdPtr<BrBrowsable>> const children = query->getNextChildSequence();
   EXPECT_TRUE(children.atBegin());
   EXPECT_THAT(paths(children), ElementsAre("Warp", "Colour", "Empty"));
-  EXPECT_EQ(children.item()->getServer(), &server_);
+  EXPECT_EQ(children.item()->getServer(), &toolServer_);
   EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
   EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
 
@@ -66,7 +55,7 @@ TEST_F(ToolChildrenQuery, yieldsWhatTheContainerAndTheFilterSay) {
            {"Warp/zoom", {}, {}},
        }) {
     SCOPED_TRACE(item.path);
-    RCShdPtr<PbrToolBrowsable> const browsable = create(item.path);
+    RCShdPtr<PbrToolBrowsable> const browsable = tool(item.path);
     EXPECT_EQ(paths(browsable->getChildren(AllChildren)->getNextChildSequence()), item.all);
     RCShdPtr<BrChildrenQuery> const query = browsable->getChildren(ItemsOnly);
     EXPECT_EQ(paths(query->getNextChildSequence()), item.items);
@@ -75,7 +64,7 @@ TEST_F(ToolChildrenQuery, yieldsWhatTheContainerAndTheFilterSay) {
 }
 
 TEST_F(ToolChildrenQuery, staysPendingWhenAChildFails) {
-  RCShdPtr<PbrToolBrowsable> const category = create("Warp");
+  RCShdPtr<PbrToolBrowsable> const category = tool("Warp");
   RCShdPtr<BrChildrenQuery> const query = category->getChildren(AllChildren);
   journal_.start();
   journal_.failAt(2);
@@ -89,7 +78,7 @@ TEST_F(ToolChildrenQuery, staysPendingWhenAChildFails) {
 }
 
 TEST_F(ToolChildrenQuery, losesNothingWhenMemoryRunsOut) {
-  RCShdPtr<PbrToolBrowsable> const folder = create("");
+  RCShdPtr<PbrToolBrowsable> const folder = tool("");
   EXPECT_GT(forEachFailingAllocation([&] {
               RCShdPtr<BrChildrenQuery> const query = folder->getChildren(AllChildren);
               Iterator<RCShdPtr<BrBrowsable>> children = query->getNextChildSequence();

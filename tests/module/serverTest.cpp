@@ -1,15 +1,20 @@
 #include "moduleTest.h"
 
-#include "assertions.h"
-#include "pbrToolServer.h"
-
 namespace Qv {
 
 namespace {
 
 using testing::ElementsAre;
 
-class ToolServer : public ModuleTest {};
+struct ServerKind {
+  char const* scheme;
+  char const* nameTitle;
+  char const* path;
+  char const* refusedPath;
+  OPtr<BrServer> (*create)();
+};
+
+class Server : public ModuleTest, public testing::WithParamInterface<ServerKind> {};
 
 /// The columns of a server, by what makes each.
 void expectColumns(BrServer const& server, char const* nameTitle) {
@@ -40,27 +45,42 @@ void expectColumns(BrServer const& server, char const* nameTitle) {
   EXPECT_TRUE(name.auxFlag) << "the second column keeps what create() gives";
 }
 
-TEST_F(ToolServer, hasItsColumnsAndSoHasItsClone) {
-  PbrToolServer server;
-  expectColumns(server, "Tool");
+TEST_P(Server, hasItsColumnsAndSoHasItsClone) {
+  OPtr<BrServer> const owner = GetParam().create();
+  BrServer const& server = *owner;
+  expectColumns(server, GetParam().nameTitle);
   server.getAttributesList()->append(server.getAttributesList()->getAttribs()[0]);
 
-  OPtr<BrServer> const clone(server.clone());
-  EXPECT_EQ(typeid(*clone), typeid(PbrToolServer));
-  expectColumns(*clone, "Tool");
+  OPtr<BrServer> const cloneOwner(server.clone());
+  BrServer const& clone = *cloneOwner;
+  EXPECT_EQ(typeid(clone), typeid(server));
+  expectColumns(clone, GetParam().nameTitle);
 }
 
-TEST_F(ToolServer, givesTheNodeForAPath) {
-  PbrToolServer server;
-  EXPECT_EQ(server.getSchemeName(), "tools");
-  EXPECT_TRUE(server.isObservable());
+TEST_P(Server, givesTheNodeForAPath) {
+  OPtr<BrServer> const server = GetParam().create();
+  EXPECT_EQ(server->getSchemeName(), GetParam().scheme);
+  EXPECT_TRUE(server->isObservable());
   LiString message("untouched");
-  for (char const* path : {"", "Colour", "Colour/invert"})
-    EXPECT_EQ(server.getNode(path, message)->getBrowsable()->getPath(), path);
-  EXPECT_THROW(server.getNode("a/b/c", message), ExProgramAborted);
+  for (char const* path : {"", GetParam().path}) {
+    RCShdPtr<BrBrowsable> const item = server->getNode(path, message)->getBrowsable();
+    EXPECT_EQ(item->getSchemeName(), GetParam().scheme);
+    EXPECT_EQ(item->getPath(), path);
+    EXPECT_EQ(item->getServer(), server.get());
+    EXPECT_EQ(item->getRefCount(), 1) << "the node is gone";
+  }
+  EXPECT_THROW(server->getNode(GetParam().refusedPath, message), ExProgramAborted);
   EXPECT_EQ(message, "untouched");
-  EXPECT_EQ(server.getRootNode()->getBrowsable()->getPath(), "");
+  EXPECT_EQ(server->getRootNode()->getBrowsable()->getPath(), "");
 }
+
+template <class T> OPtr<BrServer> make() { return OPtr<BrServer>(new T); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, Server,
+    testing::Values(ServerKind{"tools", "Tool", "Colour//invert/", "a/b/c", make<PbrToolServer>},
+                    ServerKind{"views", "View", "//graph/", "a/b", make<PbrViewServer>}),
+    [](auto const& info) { return std::string(info.param.scheme); });
 
 } // namespace
 

@@ -86,4 +86,12 @@ private:
 template <class Container, class StrongPtr, class Accessor>
 inline IteratorSTL<Container, StrongPtr, Accessor>::~IteratorSTL() = default;
 
+/// An iterator over a container that it shares; it stands on the first element.
+template <class Container>
+Iterator<typename Container::value_type> makeIterator(RCStrongPtr<Container> const& container) {
+  using Element = typename Container::value_type;
+  using Engine = IteratorSTL<Container, RCStrongPtr<Container>, IteratorAccessorPassthrough>;
+  return Iterator<Element>(RCPvtEngPtr<IteratorImp<Element>>(new Engine(container)));
+}
+
 } // namespace Qv

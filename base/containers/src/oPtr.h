@@ -16,7 +16,7 @@ public:
   /// Converts to an owner through a base class, whose destructor must be virtual.
   template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
   OPtr(OPtr<U>&& other) noexcept : ptr_(other.release()) {
-    static_assert(std::is_same_v<T, U> || std::has_virtual_destructor_v<T>);
+    static_assert(std::has_virtual_destructor_v<T>);
   }
   ~OPtr() { delete ptr_; }
 

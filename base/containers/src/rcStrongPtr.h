@@ -80,8 +80,6 @@ protected:
     std::swap(old.ptr_, ptr_);
     std::swap(old.block_, block_);
     if (other.ptr_) {
-      if (!other.block_)
-        RCExUtil::throwExNullPtrOf<Block*>();
       other.block_->acquireStrong();
       block_ = other.block_;
       ptr_ = other.ptr_;

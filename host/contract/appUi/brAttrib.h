@@ -39,7 +39,7 @@ public:
   bool isDisplayed() const { return displayed_; }
 
   bool auxFlag = true;
-  LiString auxText;
+  LiString auxText = "none";
 
 protected:
   ~BrAttrib() override;

@@ -6,10 +6,13 @@
 
 namespace Qv {
 
+template <class Event> class CbHandler;
+
 /// A page of the browser that shows one item in detail.
 class QV_EXPORT BrDetailView : public BrView {
 public:
   ~BrDetailView() override;
+  virtual void setFullScreenHandler(CbHandler<EvEvent>* handler);
   /// Adds the page with the information about the item.
   virtual void setDetailInfo() = 0;
   virtual RCShdPtr<VpPlayer> const getMiniPlayer() const;

@@ -7,13 +7,12 @@
 namespace Qv {
 
 class EvEvent;
-template <class Event> class CbHandler;
 
 /// A view of the asset browser.
 class QV_EXPORT BrView : public UiResHolder {
 public:
   /// The role under which a detail view is registered.
-  static LiString const DETAIL;
+  static LiString DETAIL;
 
   ~BrView() override;
   virtual OPtrRet<BrView> clone() const = 0;
@@ -33,9 +32,6 @@ protected:
 private:
   virtual void mapCb(EvEvent& event);
   virtual void unMapCb(EvEvent& event);
-
-public:
-  virtual void setFullScreenHandler(CbHandler<EvEvent>* handler);
 };
 
 } // namespace Qv

@@ -36,10 +36,11 @@ public:
 private:
   explicit BvDetailMgr(RCShdPtr<UiContainer> const& page);
 
+  RCShdPtr<UiLabel> addLabel(char const* name, UiResTable const* resources);
+
   RCShdPtr<UiContainer> page_;
   RCShdPtr<UiPane> generalInfoPane_;
   RCShdPtr<UiPane> iconPane_;
-  RCShdPtr<BrBrowsable> browsable_;
 };
 
 } // namespace Qv

@@ -12,6 +12,7 @@ public:
   virtual ~ActAction();
 
 protected:
+  // The stand-in's registry, which calls the operations below.
   friend class HostActRegistry;
 
   /// Whether the action is offered for these items.

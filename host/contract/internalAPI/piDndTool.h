@@ -21,7 +21,7 @@ protected:
   ~PiDndTool() override;
 
 public:
-  /// Null when the tool cannot be dragged, as is when there is none.
+  /// Null when the tool cannot be dragged or there is none.
   static RCShdPtr<PiDndTool const> create(RCShdPtr<PiTool const> const& tool);
 };
 

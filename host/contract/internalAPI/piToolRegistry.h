@@ -5,7 +5,8 @@
 
 namespace Qv {
 
-/// The host's registry of plug-in tools.
+/// The host's registry of plug-in tools. The host has further operations
+/// between these, which the module does not call.
 class QV_EXPORT PiToolRegistry {
 public:
   static PiToolRegistry& getInstance();

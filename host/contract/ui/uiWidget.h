@@ -28,13 +28,19 @@ public:
   /// The colours that have been set, by property.
   std::map<std::string, CoRgbColorTyped<float>> const& getColors() const { return colors_; }
   Vector<RCShdPtr<UiWidget>> const& getChildren() const { return children_; }
+  /// The widget that holds this one; null when none does.
+  UiWidget* getParent() const { return parent_; }
 
 protected:
   explicit UiWidget(std::string const& name);
 
-  Vector<RCShdPtr<UiWidget>> children_;
+  /// Takes a child in after the existing ones, out of the widget that held it before.
+  void addChild(RCShdPtr<UiWidget> const& child);
+  void removeChildren() noexcept;
 
 private:
+  UiWidget* parent_ = nullptr;
+  Vector<RCShdPtr<UiWidget>> children_;
   std::string name_;
   int width_ = 0;
   int height_ = 0;

@@ -1,5 +1,7 @@
 #include "brAttrib.h"
 
+#include "hostError.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -20,6 +22,8 @@ RCShdPtr<BrAttrib> BrAttrib::create(LiString const& name, unsigned int attribute
                                     AttribAttributes first, AttribAttributes second,
                                     AttribAttributes third, AttribAttributes fourth,
                                     AttribAttributes fifth) {
+  if (minWidth > maxWidth)
+    throw HostError("the column \"" + name + "\" has a minimum width above its maximum");
   return RCShdPtr<BrAttrib>(new BrAttrib(name, attributeId, dataType, minWidth, maxWidth,
                                          {first, second, third, fourth, fifth}));
 }

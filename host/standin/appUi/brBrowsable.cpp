@@ -40,8 +40,8 @@ BrBrowsable::BrBrowsable() : BrBrowsable(nullptr) {}
 
 BrBrowsable::~BrBrowsable() = default;
 
-// An item that overrides nothing has no attributes: reading gives the empty value, writing is
-// ignored, and nothing is loaded, editable, selected or played.
+// An item that overrides nothing has no attributes: reading gives NotAvailableString or the empty
+// value, writing is ignored, and nothing is loaded, editable, selected or played.
 
 void BrBrowsable::set(int /*attributeId*/, int /*index*/, CoRgbColorTyped<float> const& /*value*/) {
 }

@@ -11,6 +11,8 @@ BrDetailView::BrDetailView(LiString const& name, OsFilePath const& resourceFile)
 
 BrDetailView::~BrDetailView() = default;
 
+void BrDetailView::setFullScreenHandler(CbHandler<EvEvent>* /*handler*/) {}
+
 RCShdPtr<VpPlayer> const BrDetailView::getMiniPlayer() const { return RCShdPtr<VpPlayer>(); }
 
 void BrDetailView::addDetailInfoPage(RCShdPtr<UiWidget> page, LiString const& title) {

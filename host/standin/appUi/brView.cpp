@@ -2,7 +2,7 @@
 
 namespace Qv {
 
-LiString const BrView::DETAIL("detail");
+LiString BrView::DETAIL("detail");
 
 UiResHolder::~UiResHolder() = default;
 
@@ -14,6 +14,5 @@ void BrView::map() {}
 void BrView::unMap() {}
 void BrView::mapCb(EvEvent& /*event*/) {}
 void BrView::unMapCb(EvEvent& /*event*/) {}
-void BrView::setFullScreenHandler(CbHandler<EvEvent>* /*handler*/) {}
 
 } // namespace Qv

@@ -27,7 +27,6 @@ RCShdPtr<Widget> makeWidget(UiResTable::Kind kind, char const* name, UiResTable 
 
 BvDetailMgr::BvDetailMgr(RCShdPtr<UiContainer> const& page)
     : page_(page), generalInfoPane_(new UiPane("GeneralInfo")), iconPane_(new UiPane("Icon")) {
-  page_->add(iconPane_);
   page_->add(generalInfoPane_);
 }
 
@@ -35,7 +34,6 @@ BvDetailMgr::~BvDetailMgr() = default;
 
 void BvDetailMgr::setBrowsable(RCShdPtr<BrBrowsable> const& item) {
   HostJournal::getInstance().record("BvDetailMgr::setBrowsable", item ? item->getPath() : "");
-  browsable_ = item;
   iconPane_->setImage(item ? item->getImage(int(BrBrowsable::THUMBNAIL), {128, 128})
                            : RCShdPtr<WsManagedImage>());
 }
@@ -50,20 +48,22 @@ RCShdPtr<BvDetailMgr> BvDetailMgr::create(RCShdPtr<UiContainer> const& parent, c
   return manager;
 }
 
-RCShdPtr<UiLabel> BvDetailMgr::createAndAddTitleLabel(char const* name,
-                                                      UiResTable const* resources) {
-  HostJournal::getInstance().record("BvDetailMgr::createAndAddTitleLabel", name);
+RCShdPtr<UiLabel> BvDetailMgr::addLabel(char const* name, UiResTable const* resources) {
   RCShdPtr<UiLabel> const label = makeWidget<UiLabel>(UiResTable::Label, name, resources);
   generalInfoPane_->add(label);
   return label;
 }
 
+RCShdPtr<UiLabel> BvDetailMgr::createAndAddTitleLabel(char const* name,
+                                                      UiResTable const* resources) {
+  HostJournal::getInstance().record("BvDetailMgr::createAndAddTitleLabel", name);
+  return addLabel(name, resources);
+}
+
 RCShdPtr<UiLabel> BvDetailMgr::createAndAddValueLabel(char const* name,
                                                       UiResTable const* resources) {
   HostJournal::getInstance().record("BvDetailMgr::createAndAddValueLabel", name);
-  RCShdPtr<UiLabel> const label = makeWidget<UiLabel>(UiResTable::Label, name, resources);
-  generalInfoPane_->add(label);
-  return label;
+  return addLabel(name, resources);
 }
 
 RCShdPtr<UiTextEditor> BvDetailMgr::createAndAddValueTextEditor(char const* name,

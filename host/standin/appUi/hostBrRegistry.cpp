@@ -38,14 +38,18 @@ BrServer& HostBrRegistry::getServer(std::string const& scheme) const {
 }
 
 RCShdPtr<WsManagedImage> HostBrRegistry::getIcon(std::string const& key) const {
-  auto const found = icons_.find(key);
+  auto const found = icons_.find({key, ""});
   return found == icons_.end() ? RCShdPtr<WsManagedImage>() : found->second;
 }
 
 OPtr<BrView> HostBrRegistry::createDetailView(RCShdPtr<BrBrowsable> const& item) const {
-  for (View const& entry : views_)
-    if (entry.role == BrView::DETAIL && entry.view->understands(item))
-      return entry.view->clone();
+  for (View const& entry : views_) {
+    if (entry.role != BrView::DETAIL)
+      continue;
+    OPtr<BrView> clone = entry.view->clone();
+    if (clone->understands(item))
+      return clone;
+  }
   return OPtr<BrView>();
 }
 
@@ -66,25 +70,27 @@ void HostBrRegistry::registerServer(OPtr<BrServer> server) {
 }
 
 void HostBrRegistry::registerView(OPtr<BrView> view, LiString role) {
-  HostJournal::getInstance().record("BrRegistry::registerView", role);
+  BrView const& prototype = *view;
+  HostJournal::getInstance().record("BrRegistry::registerView", role, typeName(typeid(prototype)));
   views_.push_back({std::move(role), std::move(view)});
 }
 
 RCShdPtr<WsManagedImage> HostBrRegistry::getThumbnail(LiString const& key,
                                                       LiString const& variant) {
   HostJournal::getInstance().record("BrRegistry::getThumbnail", key, variant);
-  auto found = thumbnails_.find(key);
-  if (found == thumbnails_.end())
-    found =
-        thumbnails_.emplace(key, HostImage::read(HostResources::getInstance().locate(key + ".tif")))
-            .first;
+  auto found = thumbnails_.find({key, variant});
+  if (found == thumbnails_.end()) {
+    RCShdPtr<HostImage> const image = HostImage::read(
+        HostResources::getInstance().locate(key + (variant.empty() ? "" : "-" + variant) + ".tif"));
+    found = thumbnails_.emplace(std::pair(key, variant), image).first;
+  }
   return found->second;
 }
 
 void HostBrRegistry::registerIcon(LiString const& key, RCShdPtr<WsManagedImage> const& image,
                                   LiString const& variant) {
   HostJournal::getInstance().record("BrRegistry::registerIcon", key, variant);
-  icons_[key] = image;
+  icons_[{key, variant}] = image;
 }
 
 } // namespace Qv

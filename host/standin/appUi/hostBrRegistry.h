@@ -37,8 +37,10 @@ private:
 
   Vector<OPtr<BrServer>> servers_;
   Vector<View> views_;
-  std::map<std::string, RCShdPtr<WsManagedImage>> icons_;
-  std::map<std::string, RCShdPtr<WsManagedImage>> thumbnails_;
+  /// By key and variant.
+  using Images = std::map<std::pair<std::string, std::string>, RCShdPtr<WsManagedImage>>;
+  Images icons_;
+  Images thumbnails_;
 };
 
 } // namespace Qv

@@ -10,10 +10,9 @@ Iterator<LiString> UiViewFactory::getViews() {
   HostJournal::getInstance().record("UiViewFactory::getViews");
   using Names = Vector<LiString>;
   RCStrongPtr<Names> const names(new Names);
-  for (HostViewFactory::View const& view : HostViewFactory::getInstance().getViews())
-    names->push_back(view.name);
-  using Engine = IteratorSTL<Names, RCStrongPtr<Names>, IteratorAccessorPassthrough>;
-  return Iterator<LiString>(RCPvtEngPtr<IteratorImp<LiString>>(new Engine(names)));
+  for (std::string const& name : HostViewFactory::getInstance().getNames())
+    names->push_back(name);
+  return makeIterator(names);
 }
 
 LiString UiViewFactory::getViewLabel(LiString const& name) {
@@ -31,11 +30,11 @@ void HostViewFactory::addView(View const& view) {
   requireComponent(view.name, "view name");
   if (!labels_.emplace(view.name, view.label).second)
     throw HostError("a view named \"" + view.name + "\" is registered already");
-  views_.push_back(view);
+  names_.push_back(view.name);
 }
 
 void HostViewFactory::clear() {
-  views_.clear();
+  names_.clear();
   labels_.clear();
 }
 

@@ -23,12 +23,12 @@ public:
   void addView(View const& view);
   void clear();
 
-  Vector<View> const& getViews() const { return views_; }
+  Vector<std::string> const& getNames() const { return names_; }
   /// The label of the view of that name; null when there is no such view.
   std::string const* findLabel(std::string const& name) const;
 
 private:
-  Vector<View> views_;
+  Vector<std::string> names_;
   std::unordered_map<std::string, std::string> labels_;
 };
 

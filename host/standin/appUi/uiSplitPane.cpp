@@ -32,14 +32,17 @@ void UiSplitPane::setPanes(Vector<RCShdPtr<UiPane>> const& panes, Vector<float> 
   if (sizes && sizes->size() != panes.size())
     throw HostError("the split pane \"" + getName() + "\" needs one size a pane");
   sizes_ = sizes ? *sizes : Vector<float>(panes.size(), 1.0F / float(panes.size()));
-  children_.assign(panes.begin(), panes.end());
+  removeChildren();
+  for (RCShdPtr<UiPane> const& pane : panes)
+    addChild(pane);
   openPane_ = RCShdPtr<UiPane>();
 }
 
 bool UiSplitPane::openPane(RCShdPtr<UiPane> const& pane) {
   HostJournal::getInstance().record("UiSplitPane::openPane", getName(),
                                     pane ? pane->getName() : "");
-  if (std::find(children_.begin(), children_.end(), pane) == children_.end())
+  Vector<RCShdPtr<UiWidget>> const& panes = getChildren();
+  if (std::find(panes.begin(), panes.end(), pane) == panes.end())
     return false;
   openPane_ = pane;
   return true;

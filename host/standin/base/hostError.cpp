@@ -10,6 +10,10 @@ void requireComponent(std::string const& name, char const* what) {
   if (name.find('/') != std::string::npos)
     throw HostError(std::string("the ") + what + " \"" + name +
                     "\" holds a \"/\", so it is no single path component");
+  // A path ends there when it is handed on as characters.
+  if (name.find('\0') != std::string::npos)
+    throw HostError(std::string("the ") + what + " \"" + name.c_str() +
+                    "...\" holds a zero byte, so it is no single path component");
 }
 
 } // namespace Qv

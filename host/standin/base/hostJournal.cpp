@@ -20,13 +20,12 @@ void HostJournal::stop() {
   recording_ = false;
 }
 
-void HostJournal::record(std::string const& operation, std::string const& key,
-                         std::string const& detail) {
+void HostJournal::record(char const* operation, std::string const& key, std::string const& detail) {
   if (!recording_)
     return;
   entries_.push_back({operation, key, detail});
   if (entries_.size() - 1 == failAt_)
-    throw HostError(operation + " was told to fail");
+    throw HostError(std::string(operation) + " was told to fail");
 }
 
 } // namespace Qv

@@ -10,7 +10,8 @@
 namespace Qv {
 
 /// What the host was asked to do, across all its registries, in order. Every registry reports a
-/// call here before it does anything, so the journal is also where failures of the host are made.
+/// call here before it changes anything, so the journal is also where failures of the host are
+/// made.
 class QV_EXPORT HostJournal {
 public:
   struct Entry {
@@ -32,8 +33,7 @@ public:
   void failAt(std::size_t index) { failAt_ = index; }
 
   /// Adds an entry while the journal is kept. @throws HostError where told to fail.
-  void record(std::string const& operation, std::string const& key = "",
-              std::string const& detail = "");
+  void record(char const* operation, std::string const& key = "", std::string const& detail = "");
 
   std::vector<Entry> const& getEntries() const { return entries_; }
 

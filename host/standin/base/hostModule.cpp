@@ -5,6 +5,7 @@
 
 #include <boost/dll/shared_library.hpp>
 #include <dlfcn.h>
+#include <set>
 #include <string_view>
 
 namespace Qv {
@@ -33,34 +34,43 @@ public:
     if (error)
       throw HostError("cannot load the module \"" + file.string() + "\": " + loaderError(file));
   }
-  /// The host must let go of the module's objects while their code is still there.
-  ~Library() { HostPackageManager::getInstance().uninitializeAll(); }
 
 private:
   boost::dll::shared_library library_;
 };
 
 HostModule::HostModule(fs::path const& file) {
-  if (!fs::exists(file))
-    throw HostError("cannot load the module \"" + file.string() + "\": there is no such file");
+  std::error_code error;
+  fs::path const absolute = fs::absolute(file, error);
+  if (error || !fs::exists(absolute, error))
+    throw HostError("cannot load the module \"" + file.string() +
+                    "\": " + (error ? error.message() : "there is no such file"));
 
   HostPackageManager& manager = HostPackageManager::getInstance();
-  Vector<InPackageInit*> const before = manager.getPackages();
-  library_ = std::make_unique<Library>(fs::absolute(file));
+  std::size_t const before = manager.getPackages().size();
+  library_ = std::make_unique<Library>(absolute);
 
-  Vector<InPackageInit*> const& after = manager.getPackages();
-  Vector<InPackageInit*> const added(after.begin() + std::ptrdiff_t(before.size()), after.end());
-  if (added.empty())
+  Vector<InPackageInit*> const& packages = manager.getPackages();
+  if (packages.size() == before)
     throw HostError("the module \"" + file.string() + "\" registers no package");
-  for (InPackageInit* const package : added) {
-    for (InPackageInit const* const other : before)
-      if (std::string_view(other->getName()) == package->getName())
-        throw HostError("the module \"" + file.string() + "\" registers a package \"" +
-                        package->getName() + "\", which exists already");
-    manager.initialize(*package);
+  std::set<std::string_view> names;
+  for (std::size_t index = 0; index < packages.size(); ++index)
+    if (!names.insert(packages[index]->getName()).second && index >= before)
+      throw HostError("the module \"" + file.string() + "\" registers a package \"" +
+                      packages[index]->getName() + "\", which exists already");
+
+  try {
+    for (std::size_t index = before; index < packages.size(); ++index)
+      manager.initialize(*packages[index]);
+  } catch (...) {
+    manager.uninitializeAll();
+    throw;
   }
 }
 
-HostModule::~HostModule() = default;
+HostModule::~HostModule() {
+  // The host must let go of the module's objects while their code is still there.
+  HostPackageManager::getInstance().uninitializeAll();
+}
 
 } // namespace Qv

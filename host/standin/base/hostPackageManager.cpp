@@ -32,34 +32,32 @@ void HostPackageManager::initialize(InPackageInit& package) {
   if (contains(initialized_, package))
     return;
   std::string const name = package.getName();
-  if (contains(initializing_, package))
-    throw HostError("package \"" + name + "\" depends on itself");
+  // A package that failed half-way stays here as well, until it is uninitialised.
+  if (contains(started_, package))
+    throw HostError("package \"" + name + "\" depends on itself or has failed before");
 
-  initializing_.push_back(&package);
-  try {
-    for (std::type_info const* const needed : package.getDependencies()) {
-      InPackageInit* const dependency = find(*needed);
-      if (!dependency)
-        throw HostError("package \"" + name + "\" depends on the package " + typeName(*needed) +
-                        ", which no loaded library provides");
-      initialize(*dependency);
-    }
-    HostJournal::getInstance().record("InPackageInit::initialize", name);
-    // Before the call: a package that fails half-way has to be uninitialised as well.
-    initialized_.push_back(&package);
-    package.initialize();
-  } catch (...) {
-    initializing_.pop_back();
-    throw;
+  started_.push_back(&package);
+  for (std::type_info const* const needed : package.getDependencies()) {
+    InPackageInit* const dependency = find(*needed);
+    if (!dependency)
+      throw HostError("package \"" + name + "\" depends on the package " + typeName(*needed) +
+                      ", which no loaded library provides");
+    initialize(*dependency);
   }
-  initializing_.pop_back();
+  HostJournal::getInstance().record("InPackageInit::initialize", name);
+  package.initialize();
+  initialized_.push_back(&package);
 }
 
-void HostPackageManager::uninitializeAll() {
+void HostPackageManager::uninitializeAll() noexcept {
+  // Packages that failed half-way go first: nothing depends on them.
+  for (InPackageInit* const package : started_)
+    if (!contains(initialized_, *package))
+      initialized_.push_back(package);
+  started_.clear();
   while (!initialized_.empty()) {
     InPackageInit* const package = initialized_.back();
     initialized_.pop_back();
-    HostJournal::getInstance().record("InPackageInit::uninitialize", package->getName());
     package->uninitialize();
   }
 }
@@ -72,6 +70,7 @@ void HostPackageManager::add(InPackageInit& package) {
 void HostPackageManager::remove(InPackageInit& package) noexcept {
   std::erase(packages_, &package);
   std::erase(initialized_, &package);
+  std::erase(started_, &package);
 }
 
 } // namespace Qv

@@ -15,10 +15,10 @@ public:
   InPackageInit* find(std::type_info const& packageClass) const;
 
   /// Initialises what the package depends on, then the package itself; each one once.
-  /// @throws HostError when a dependency is missing or leads back to the package.
+  /// @throws HostError when a dependency is missing, leads back to the package or failed before.
   void initialize(InPackageInit& package);
   /// Uninitialises in reverse order. The registries of the host let go of all they hold.
-  void uninitializeAll();
+  void uninitializeAll() noexcept;
 
   /// Refuses nothing: this is called while a library is loaded, when nobody can be told.
   void add(InPackageInit& package);
@@ -27,7 +27,7 @@ public:
 private:
   Vector<InPackageInit*> packages_;
   Vector<InPackageInit*> initialized_;
-  Vector<InPackageInit*> initializing_;
+  Vector<InPackageInit*> started_;
 };
 
 } // namespace Qv

@@ -18,8 +18,7 @@ Iterator<std::string> OmUtil::parsePath(OsFilePath const& path) {
     rest.remove_prefix(std::min(length + 1, rest.size()));
   }
 
-  using Engine = IteratorSTL<Components, RCStrongPtr<Components>, IteratorAccessorPassthrough>;
-  return Iterator<std::string>(RCPvtEngPtr<IteratorImp<std::string>>(new Engine(components)));
+  return makeIterator(components);
 }
 
 } // namespace Qv

@@ -22,13 +22,14 @@ class QV_EXPORT HostTool final : public PiTool {
 public:
   explicit HostTool(HostToolFacts facts);
 
-  bool isActive() const override { return facts_.active; }
-  std::string getInfoText1() const override { return facts_.infoTexts[0]; }
-  std::string getInfoText2() const override { return facts_.infoTexts[1]; }
-  std::string getInfoText3() const override { return facts_.infoTexts[2]; }
-  std::string getName() const override { return facts_.name; }
+  bool isActive() const override;
+  std::string getInfoText1() const override;
+  std::string getInfoText2() const override;
+  std::string getInfoText3() const override;
+  std::string getName() const override;
 
   bool isInternal() const { return facts_.internal; }
+  bool isSuperTool() const { return facts_.superTool; }
   std::string const& getCategory() const { return facts_.category; }
 
 private:

@@ -6,15 +6,6 @@
 
 namespace Qv {
 
-namespace {
-
-template <class T> Iterator<T> iterate(RCStrongPtr<Vector<T>> const& elements) {
-  using Engine = IteratorSTL<Vector<T>, RCStrongPtr<Vector<T>>, IteratorAccessorPassthrough>;
-  return Iterator<T>(RCPvtEngPtr<IteratorImp<T>>(new Engine(elements)));
-}
-
-} // namespace
-
 PiToolRegistry& PiToolRegistry::getInstance() { return HostToolRegistry::getInstance(); }
 
 HostToolRegistry& HostToolRegistry::getInstance() {
@@ -34,8 +25,6 @@ void HostToolRegistry::addTool(HostToolFacts const& facts) {
   tools_.push_back(tool);
   toolsByCategory_[facts.category].push_back(tool);
   toolsByName_.emplace(facts.name, tool);
-  if (facts.superTool)
-    superTools_.insert(facts.name);
 }
 
 void HostToolRegistry::clear() {
@@ -43,7 +32,6 @@ void HostToolRegistry::clear() {
   tools_.clear();
   toolsByCategory_.clear();
   toolsByName_.clear();
-  superTools_.clear();
 }
 
 RCShdPtr<PiTool const> HostToolRegistry::find(std::string const& name) const {
@@ -51,8 +39,8 @@ RCShdPtr<PiTool const> HostToolRegistry::find(std::string const& name) const {
   return found == toolsByName_.end() ? RCShdPtr<PiTool const>() : found->second;
 }
 
-RCShdPtr<PiTool const> HostToolRegistry::findTool(std::string const& name, bool /*flag*/) {
-  HostJournal::getInstance().record("PiToolRegistry::findTool", name);
+RCShdPtr<PiTool const> HostToolRegistry::findTool(std::string const& name, bool flag) {
+  HostJournal::getInstance().record("PiToolRegistry::findTool", name, flag ? "true" : "false");
   return find(name);
 }
 
@@ -62,9 +50,10 @@ RCShdPtr<PiTool const> HostToolRegistry::getTool(std::string const& name) {
 }
 
 Iterator<RCShdPtr<PiTool const>>
-HostToolRegistry::getTools(PrdPredicate<RCShdPtr<PiTool const>> const& predicate, bool /*flag*/) {
+HostToolRegistry::getTools(PrdPredicate<RCShdPtr<PiTool const>> const& predicate, bool flag) {
   std::string const* const category = predicate.getIndexKey();
-  HostJournal::getInstance().record("PiToolRegistry::getTools", category ? *category : "");
+  HostJournal::getInstance().record("PiToolRegistry::getTools", category ? *category : "",
+                                    flag ? "true" : "false");
 
   RCStrongPtr<Tools> const result(new Tools);
   auto const selectFrom = [&](Tools const& tools) {
@@ -76,17 +65,18 @@ HostToolRegistry::getTools(PrdPredicate<RCShdPtr<PiTool const>> const& predicate
     selectFrom(tools_);
   else if (auto const found = toolsByCategory_.find(*category); found != toolsByCategory_.end())
     selectFrom(found->second);
-  return iterate(result);
+  return makeIterator(result);
 }
 
 Iterator<std::string> HostToolRegistry::getCategories() {
   HostJournal::getInstance().record("PiToolRegistry::getCategories");
-  return iterate(RCStrongPtr<Vector<std::string>>(new Vector<std::string>(categories_)));
+  return makeIterator(RCStrongPtr<Vector<std::string>>(new Vector<std::string>(categories_)));
 }
 
 bool HostToolRegistry::isSuperTool(std::string const& name) {
   HostJournal::getInstance().record("PiToolRegistry::isSuperTool", name);
-  return superTools_.contains(name);
+  RCShdPtr<PiTool const> const tool = find(name);
+  return tool && tool.checkedCast<HostTool const>()->isSuperTool();
 }
 
 } // namespace Qv

@@ -5,7 +5,6 @@
 #include "piToolRegistry.h"
 
 #include <unordered_map>
-#include <unordered_set>
 
 namespace Qv {
 
@@ -38,7 +37,6 @@ private:
   Tools tools_;
   std::unordered_map<std::string, Tools> toolsByCategory_;
   std::unordered_map<std::string, RCShdPtr<PiTool const>> toolsByName_;
-  std::unordered_set<std::string> superTools_;
 };
 
 } // namespace Qv

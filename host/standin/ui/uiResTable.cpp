@@ -5,8 +5,11 @@
 #include "hostResources.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
+#include <cstring>
 #include <fmt/format.h>
+#include <fstream>
 #include <pugixml.hpp>
 
 namespace Qv {
@@ -21,18 +24,23 @@ public:
   explicit ResourceReader(std::string file) : file_(std::move(file)) {}
 
   std::map<std::string, UiResTable::Resource> read(std::filesystem::path const& path) {
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream)
+      fail(fmt::format("{} in \"{}\"", std::strerror(errno), path.parent_path().string()));
     pugi::xml_document document;
-    pugi::xml_parse_result const result = document.load_file(path.c_str());
-    if (result.status == pugi::status_file_not_found)
-      fail(fmt::format("there is no such file in \"{}\"", path.parent_path().string()));
+    pugi::xml_parse_result const result = document.load(stream);
     if (!result)
       fail(fmt::format("it is no XML at byte {}: {}", result.offset, result.description()));
     pugi::xml_node const root = document.document_element();
     if (std::string_view(root.name()) != "resources")
       fail(fmt::format("its root is <{}> instead of <resources>", root.name()));
+    if (root.next_sibling() || root.first_attribute())
+      fail("there is more than resources in it");
 
     std::map<std::string, UiResTable::Resource> resources;
     for (pugi::xml_node const element : root.children()) {
+      if (element.type() != pugi::node_element)
+        fail("there is text outside of its resources");
       std::string const name = element.attribute("name").value();
       if (name.empty())
         fail(fmt::format("a <{}> has no name", element.name()));
@@ -54,15 +62,19 @@ private:
       fail(fmt::format("\"{}\" is a <{}>, which is no kind of resource", name, element.name()));
     UiResTable::Resource resource = {UiResTable::Kind(kind - std::begin(kindNames)), "", 0, 0,
                                      std::nullopt};
+    if (element.first_child())
+      fail(fmt::format("\"{}\" holds something", name));
     for (pugi::xml_attribute const attribute : element.attributes()) {
       std::string_view const key = attribute.name();
       std::string_view const value = attribute.value();
-      if (key == "text")
+      if (element.attribute(attribute.name()) != attribute)
+        fail(fmt::format("\"{}\" has the attribute {} twice", name, key));
+      if (key == "text" && resource.kind != UiResTable::Page)
         resource.text = value;
       else if (key == "width")
-        resource.width = readNumber(name, key, value, 10);
+        resource.width = readNumber(name, key, value);
       else if (key == "height")
-        resource.height = readNumber(name, key, value, 10);
+        resource.height = readNumber(name, key, value);
       else if (key == "background")
         resource.background = readColor(name, value);
       else if (key != "name")
@@ -71,22 +83,22 @@ private:
     return resource;
   }
 
-  int readNumber(std::string const& name, std::string_view key, std::string_view text,
-                 int base) const {
+  int readNumber(std::string const& name, std::string_view key, std::string_view text) const {
     int number = 0;
-    auto const [end, error] = std::from_chars(text.begin(), text.end(), number, base);
+    auto const [end, error] = std::from_chars(text.begin(), text.end(), number);
     if (error != std::errc() || end != text.end() || number < 0)
-      fail(fmt::format("\"{}\" has the {} \"{}\", which is no number", name, key, text));
+      fail(fmt::format("\"{}\" has the {} \"{}\", which is no number of pixels", name, key, text));
     return number;
   }
 
   CoRgbColorTyped<float> readColor(std::string const& name, std::string_view text) const {
-    if (text.size() != 7 || text[0] != '#')
+    unsigned int rgb = 0;
+    std::string_view const digits = text.substr(std::min<std::size_t>(text.size(), 1));
+    auto const [end, error] = std::from_chars(digits.begin(), digits.end(), rgb, 16);
+    if (text.size() != 7 || text[0] != '#' || error != std::errc() || end != digits.end())
       fail(fmt::format("\"{}\" has the background \"{}\" instead of #rrggbb", name, text));
-    auto const component = [&](std::size_t at) {
-      return float(readNumber(name, "background", text.substr(at, 2), 16)) / 255;
-    };
-    return {component(1), component(3), component(5)};
+    auto const component = [&](int shift) { return float((rgb >> shift) & 0xFF) / 255; };
+    return {component(16), component(8), component(0)};
   }
 
   std::string file_;

@@ -8,7 +8,21 @@ char const* const UiWidget::BackgroundColor = "background";
 
 UiWidget::UiWidget(std::string const& name) : name_(name) {}
 
-UiWidget::~UiWidget() = default;
+UiWidget::~UiWidget() { removeChildren(); }
+
+void UiWidget::addChild(RCShdPtr<UiWidget> const& child) {
+  RCShdPtr<UiWidget> const added = child;
+  if (UiWidget* const before = added->parent_)
+    std::erase(before->children_, added);
+  children_.push_back(added);
+  added->parent_ = this;
+}
+
+void UiWidget::removeChildren() noexcept {
+  for (RCShdPtr<UiWidget> const& child : children_)
+    child->parent_ = nullptr;
+  children_.clear();
+}
 
 void UiWidget::setColor(char const* property, CoRgbColorTyped<float> const& color) {
   colors_[property] = color;
@@ -39,7 +53,7 @@ UiPane::UiPane(std::string const& name) : UiWidget(name) {}
 
 UiPane::~UiPane() = default;
 
-void UiPane::add(RCShdPtr<UiWidget> const& widget) { children_.push_back(widget); }
+void UiPane::add(RCShdPtr<UiWidget> const& widget) { addChild(widget); }
 
 void UiPane::setImage(RCShdPtr<WsManagedImage> const& image) { image_ = image; }
 

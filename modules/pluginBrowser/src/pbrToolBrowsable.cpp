@@ -10,8 +10,20 @@
 
 namespace Qv {
 
+namespace {
+
+/// The tools that a category shows.
+Iterator<RCShdPtr<PiTool const>> findTools(std::string const& category) {
+  auto const inCategory = PiToolPredicates::isCategory(LiString(category));
+  PiToolRegistry& registry = PiToolRegistry::getInstance();
+  auto const notInternal = inCategory && !PiToolPredicates::isInternal();
+  return registry.getTools(notInternal && PiToolPredicates::isActive(), true);
+}
+
+} // namespace
+
 PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
-    : BrBrowsable(server), path_(path), superTool_(false), type_(FOLDER) {
+    : BrBrowsable(server), path_(path), superTool_(false) {
   Iterator<std::string> components = OmUtil::parsePath(OsFilePath(path));
   switch (components.getCardinality()) {
   case 0: {
@@ -25,11 +37,7 @@ PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
   case 1: {
     type_ = CATEGORY;
     toolName_ = components.item();
-    auto const inCategory = PiToolPredicates::isCategory(LiString(toolName_));
-    PiToolRegistry& registry = PiToolRegistry::getInstance();
-    auto const notInternal = inCategory && !PiToolPredicates::isInternal();
-    Iterator<RCShdPtr<PiTool const>> tools =
-        registry.getTools(notInternal && PiToolPredicates::isActive(), true);
+    Iterator<RCShdPtr<PiTool const>> tools = findTools(toolName_);
     for (; !tools.atEnd(); tools.next())
       childNames_.push_back(LiString(tools.item()->getName()));
     superTool_ = PiToolRegistry::getInstance().isSuperTool(toolName_);
@@ -60,11 +68,17 @@ RCShdPtr<PbrToolBrowsable> PbrToolBrowsable::createBrowsableType() {
   return RCShdPtr<PbrToolBrowsable>(new PbrToolBrowsable);
 }
 
+std::string const& PbrToolBrowsable::getToolName() const { return toolName_; }
+
+bool PbrToolBrowsable::isSuperTool() const { return superTool_; }
+
+PbrToolBrowsable::Type PbrToolBrowsable::getToolBrowsableType() const { return type_; }
+
 Iterator<std::string> PbrToolBrowsable::getChildren() {
   RCStrongPtr<Names> const names(new Names);
   for (LiString const& name : childNames_)
     names->push_back(name);
-  return Iterator<std::string>(RCPvtEngPtr<IteratorImp<std::string>>(new NamesEngine(names)));
+  return makeIterator(names);
 }
 
 LiString const& PbrToolBrowsable::getSchemeName() const {

@@ -14,7 +14,8 @@ public:
   /// a TOOL whose super-tool flag is set.
   enum Type : int { FOLDER = 0, CATEGORY = 1, TOOL = 2 };
 
-  // The browsable type strings, which are also the keys of the type icons.
+  // The browsable type strings, which are also the keys of the type icons. Defined among the
+  // statics of the module, in pluginBrowserQvmoduleInit.cpp.
   static LiString const FolderId;
   static LiString const CategoryId;
   static LiString const SuperToolId;
@@ -27,9 +28,9 @@ public:
   static RCShdPtr<PbrToolBrowsable> createBrowsableType();
 
   /// "Tools" for the folder, otherwise the registry's name of the category or tool.
-  std::string const& getToolName() const { return toolName_; }
-  bool isSuperTool() const { return superTool_; }
-  Type getToolBrowsableType() const { return type_; }
+  std::string const& getToolName() const;
+  bool isSuperTool() const;
+  Type getToolBrowsableType() const;
   /// The names of the children, in a new container at every call.
   Iterator<std::string> getChildren();
 

@@ -28,8 +28,7 @@ Iterator<RCShdPtr<BrBrowsable>> PbrToolChildrenQuerys::getNextChildSequence() {
   }
   // Only now: a child that cannot be made leaves the query pending.
   pending_ = false;
-  return Iterator<RCShdPtr<BrBrowsable>>(
-      RCPvtEngPtr<IteratorImp<RCShdPtr<BrBrowsable>>>(new BrBrowsablesEngine(children)));
+  return makeIterator(children);
 }
 
 } // namespace Qv

@@ -13,7 +13,8 @@ public:
   ~PbrToolServer() override;
 
   BrServer* clone() const override;
-  /// @throws ExProgramAborted when the path has three or more components. @param message stays.
+  /// @param message stays as it is.
+  /// @throws ExProgramAborted when the path has three or more components.
   RCShdPtr<BrNode> getNode(LiString const& path, LiString& message) override;
   LiString getSchemeName() const override;
   bool isObservable() const override;

@@ -33,17 +33,15 @@ void PbrToolView::setContent(RCShdPtr<BrBrowsable> const& item,
   if (browsable)
     tool = PiToolRegistry::getInstance().getTool(browsable->getToolName());
 
-  auto const setLabel = [this](std::size_t field, std::string const& text) {
-    getFieldValue(field).checkedCast<UiLabel>()->getLabel().setString(text.c_str());
+  // The widget is asked for before the text that it shows.
+  auto const label = [this](std::size_t field) -> UiString& {
+    return getFieldValue(field).checkedCast<UiLabel>()->getLabel();
   };
-  setLabel(0, tool ? tool->getInfoText1() : "");
+  label(0).setString((tool ? tool->getInfoText1() : std::string()).c_str());
   getFieldValue(1).checkedCast<UiTextEditor>()->setString(tool ? LiString(tool->getInfoText2())
                                                                : LiString());
-  setLabel(2, tool ? tool->getInfoText3() : "");
-  char const* state = "";
-  if (tool)
-    state = tool->isActive() ? "Active" : "Inactive";
-  setLabel(3, state);
+  label(2).setString((tool ? tool->getInfoText3() : std::string()).c_str());
+  label(3).setString(!tool ? "" : tool->isActive() ? "Active" : "Inactive");
 
   iconSplitPane_->openPane(detailMgr_->getIconPane());
   detailMgr_->setBrowsable(item);
@@ -62,8 +60,9 @@ void PbrToolView::buildUi(RCShdPtr<SnSelection> const& /*selection*/) {
 }
 
 RCShdPtr<BvDetailMgr> PbrToolView::buildDetails(UiResTable const* resources) {
-  RCShdPtr<BvDetailMgr> manager =
-      BvDetailMgr::create(RCShdPtr<UiContainer>(), "InfoCt", resources);
+  RCShdPtr<BvDetailMgr> manager = BvDetailMgr::create(RCShdPtr<UiContainer>(), "InfoCt", resources);
+  fieldTitles_.clear();
+  fieldValues_.clear();
   for (int field = 0; field < 4; ++field) {
     std::string const titleName = "FieldTitle" + LiStringUtil::convertNb(field);
     fieldTitles_.push_back(manager->createAndAddTitleLabel(titleName.c_str(), resources));

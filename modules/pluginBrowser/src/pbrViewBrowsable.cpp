@@ -11,7 +11,7 @@
 namespace Qv {
 
 PbrViewBrowsable::PbrViewBrowsable(BrServer* server, LiString const& path)
-    : BrBrowsable(server), path_(path), type_(FOLDER) {
+    : BrBrowsable(server), path_(path) {
   Iterator<std::string> const components = OmUtil::parsePath(OsFilePath(path));
   switch (components.getCardinality()) {
   case 0:
@@ -38,6 +38,10 @@ RCShdPtr<PbrViewBrowsable> PbrViewBrowsable::create(BrServer* server, LiString c
 RCShdPtr<PbrViewBrowsable> PbrViewBrowsable::createBrowsableType() {
   return RCShdPtr<PbrViewBrowsable>(new PbrViewBrowsable);
 }
+
+PbrViewBrowsable::Type PbrViewBrowsable::getViewBrowsableType() const { return type_; }
+
+LiString const& PbrViewBrowsable::getViewName() const { return viewName_; }
 
 LiString const& PbrViewBrowsable::getSchemeName() const {
   return PiBrowserSchemes::PluginViewScheme;

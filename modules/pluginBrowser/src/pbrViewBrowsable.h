@@ -11,7 +11,8 @@ class QV_EXPORT PbrViewBrowsable : public BrBrowsable {
 public:
   enum Type : int { FOLDER = 0, VIEW = 1 };
 
-  // The browsable type strings, which are also the keys of the type icons.
+  // The browsable type strings, which are also the keys of the type icons. Defined among the
+  // statics of the module, in pluginBrowserQvmoduleInit.cpp.
   static LiString const FolderId;
   static LiString const ViewsId;
 
@@ -21,9 +22,9 @@ public:
   /// The prototype that stands for the class in the drag-and-drop registry.
   static RCShdPtr<PbrViewBrowsable> createBrowsableType();
 
-  Type getViewBrowsableType() const { return type_; }
+  Type getViewBrowsableType() const;
   /// "Views" for the folder, otherwise the name by which the view factory knows the view.
-  LiString const& getViewName() const { return viewName_; }
+  LiString const& getViewName() const;
 
 protected:
   ~PbrViewBrowsable() override;

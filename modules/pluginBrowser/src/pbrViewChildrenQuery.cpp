@@ -18,7 +18,7 @@ Iterator<RCShdPtr<BrBrowsable>> PbrViewChildrenQuery::getNextChildSequence() {
   RCStrongPtr<BrBrowsables> const children(new BrBrowsables);
   if (pending_ && browsable_->isAContainer()) {
     for (Iterator<LiString> views = UiViewFactory::getViews(); !views.atEnd(); views.next()) {
-      // The folder's path ends where a view's name begins.
+      // No separator: the folder is the root of the scheme.
       LiString const childPath(browsable_->getPath() + views.item());
       if (filter_ == 2 && OmUtil::parsePath(OsFilePath(childPath)).getCardinality() != 1)
         continue;
@@ -27,8 +27,7 @@ Iterator<RCShdPtr<BrBrowsable>> PbrViewChildrenQuery::getNextChildSequence() {
   }
   // Only now: a child that cannot be made leaves the query pending.
   pending_ = false;
-  return Iterator<RCShdPtr<BrBrowsable>>(
-      RCPvtEngPtr<IteratorImp<RCShdPtr<BrBrowsable>>>(new BrBrowsablesEngine(children)));
+  return makeIterator(children);
 }
 
 } // namespace Qv

@@ -78,6 +78,7 @@ template <> void PackageInit::initialize() {
   OPtr<BrServer> toolServer(new PbrToolServer);
   OPtr<BrServer> viewServer(new PbrViewServer);
   {
+    // Handlers and prototypes are let go before the icons come.
     RCShdPtr<PbrToolBrowsable> const toolType = PbrToolBrowsable::createBrowsableType();
     RCShdPtr<PbrToolDndHandler> const toolHandler(new PbrToolDndHandler);
     BrDndRegistry::getInstance().addHandler(toolType, toolHandler);

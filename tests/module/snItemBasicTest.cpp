@@ -1,0 +1,89 @@
+#include "moduleTest.h"
+
+#include "pbrDraggedItems.h"
+
+#include <sstream>
+
+namespace Qv {
+
+namespace {
+
+using Item = RCShdPtr<SnItem const>;
+using DraggedNode = RCShdPtr<PiNodeDndInterface const>;
+
+class DraggedItems : public ModuleTest {
+protected:
+  DraggedItems() { tools_.addTool({.name = "graph", .category = "Colour"}); }
+
+  DraggedNode createNode() { return PiDndTool::create(tools_.getTool("graph")); }
+  static Item carry(DraggedNode const& node) {
+    return Item(new DraggedToolItem(node, RCShdPtr<SnParts>()));
+  }
+  static Item carry(char const* view, SnParts* parts = nullptr) {
+    return Item(new DraggedViewItem(UiViewIdentifier(view), RCShdPtr<SnParts>(parts)));
+  }
+};
+
+TEST_F(DraggedItems, areEqualWhenClassAndValueAre) {
+  struct OtherItem : DraggedViewItem {
+    using DraggedViewItem::DraggedViewItem;
+  };
+  DraggedNode const node = createNode();
+  DraggedNode const nodeOfTheSameTool = createNode();
+  Item const other(new OtherItem(UiViewIdentifier("graph"), RCShdPtr<SnParts>()));
+  // Items of the same number are equal.
+  std::vector<std::pair<int, Item>> const items = {
+      {1, carry(node)},    {1, carry(node)},
+      {2, carry("graph")}, {2, carry("graph", new SnParts)},
+      {3, carry("Graph")}, {4, carry(nodeOfTheSameTool)},
+      {5, other},          {6, carry(DraggedNode())}};
+  for (auto const& [left, item] : items)
+    for (auto const& [right, otherItem] : items)
+      EXPECT_EQ(item->isEqual(*otherItem), left == right) << left << ", " << right;
+}
+
+TEST_F(DraggedItems, holdTheirOwnValueAndSoDoTheirClones) {
+  DraggedNode node = createNode();
+  Item tool = carry(node);
+  Item view = carry("a view of a long name");
+  EXPECT_EQ(node->getRefCount(), 2);
+  for (Item* const item : {&tool, &view}) {
+    SnItem* const raw = (*item)->clone();
+    EXPECT_EQ(raw->getRefCount(), 0);
+    Item const clone(raw);
+    EXPECT_TRUE(clone->isEqual(**item) && (*item)->isEqual(*clone));
+    EXPECT_EQ(node->getRefCount(), item == &tool ? 3 : 2);
+    *item = clone;
+  }
+  EXPECT_EQ(node->getRefCount(), 2);
+  EXPECT_EQ(tool.checkedCast<DraggedToolItem const>()->getValue(), node);
+  EXPECT_EQ(view.checkedCast<DraggedViewItem const>()->getValue().getName(),
+            "a view of a long name");
+}
+
+TEST_F(DraggedItems, writeTheirClassAndTheirValue) {
+  DraggedNode const node = createNode();
+  PiNodeDndInterface const& pointee = *node;
+  std::ostringstream text;
+  carry("graph")->dump(text);
+  carry(node)->dump(text);
+  std::ostringstream expected;
+  expected << "Item:      Qv::SnItemBasic<Qv::UiViewIdentifier>\n"
+           << "Data:      view \"graph\"\n"
+           << "Item:      Qv::SnItemBasic<Qv::RCShdPtr<Qv::PiNodeDndInterface const> >\n"
+           << "Data:      Pointee type = " << typeName(typeid(pointee))
+           << ", T type = Qv::PiNodeDndInterface, ref: 2, pointer:" << &pointee
+           << ", RCBase pointer: " << &pointee << "\n";
+  EXPECT_EQ(text.str(), expected.str());
+}
+
+TEST_F(DraggedItems, loseNothingWhenMemoryRunsOut) {
+  Item const tool = carry(createNode());
+  Item const view = carry("a view of a long name");
+  EXPECT_EQ(forEachFailingAllocation([&] { Item const clone(tool->clone()); }), 1);
+  EXPECT_EQ(forEachFailingAllocation([&] { Item const clone(view->clone()); }), 2);
+}
+
+} // namespace
+
+} // namespace Qv
