@@ -60,15 +60,15 @@ std::vector<std::string> slots(std::type_info const& type) {
     // Sanitizers let a table end in words that nothing is written to.
     if (!written && !names.empty())
       continue;
-    bool const destructor = !written || function.find('~') != std::string::npos;
-    if (destructor && !names.empty() && names.back() == "~")
-      continue;
-    if (destructor)
+    if (!written || function.find('~') != std::string::npos) {
       names.emplace_back("~");
-    else
+      // The destructor that also frees the memory follows, by whatever name.
+      place += sizeof(void*);
+    } else {
       names.push_back(function == "__cxa_pure_virtual" ? "pure"
                       : function.empty()               ? "hidden"
                                                        : function);
+    }
   }
   return names;
 }
