@@ -53,12 +53,5 @@ TEST(ExceptionTest, keepTheirArguments) {
                                     HasSubstr(temporary("broken"))));
 }
 
-TEST(ExceptionTest, programMayAbortWithoutMessage) {
-  auto const aborted =
-      thrownBy<ExProgramAborted>([] { Assertions::throwProgramAborted("source", 171, nullptr); });
-  EXPECT_EQ(aborted.getMessage(), nullptr);
-  EXPECT_THAT(aborted.what(), AllOf(HasSubstr("source"), HasSubstr("171")));
-}
-
 } // namespace
 } // namespace Qv

@@ -2,8 +2,6 @@
 #include "iteratorSTL.imp.h"
 #include "nullPointee.h"
 
-#include <gmock/gmock.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -23,10 +21,6 @@ template <class Container> RCStrongPtr<Container> containerOf(int size) {
 template <class Container> RCPvtEngPtr<Engine<Container>> engineOver(int size) {
   return RCPvtEngPtr<Engine<Container>>(new Engine<Container>(containerOf<Container>(size)));
 }
-template <class Container> Iterator<int> iteratorOver(RCStrongPtr<Container> const& container) {
-  return Iterator<int>(RCPvtEngPtr<IteratorImp<int>>(new Engine<Container>(container)));
-}
-
 /// Reads the position: `begin 0`, `1`, `end` ...
 std::string place(Iterator<int> const& it) {
   return (it.atBegin() ? "begin " : "") + (it.atEnd() ? "end" : std::to_string(it.item()));
@@ -36,19 +30,15 @@ std::string placeOf(int index, int size) {
   return (index == 0 ? "begin " : "") + (index == size ? "end" : std::to_string(index));
 }
 
-template <class Move> void expectOutOfRange(Iterator<int>& it, Move move, int line) {
-  std::string const file = ".\\base/containers/src/iteratorSTL.imp.h";
+/// Expects that a move is refused, with that line, and leaves the iterator where it stands.
+template <class Move> void expectOutOfRange(Iterator<int>& it, int line, Move move) {
   std::string const before = place(it);
-  EXPECT_THROW(move(), std::exception);
-  EXPECT_THROW(move(), ExBase);
-  EXPECT_THROW(move(), IteratorEx);
   try {
     move();
     ADD_FAILURE() << "left the range";
   } catch (IteratorEx::ExOutOfRange const& ex) {
-    EXPECT_EQ(ex.getFile(), file);
+    EXPECT_EQ(ex.getFile(), std::string(".\\base/containers/src/iteratorSTL.imp.h"));
     EXPECT_EQ(ex.getLine(), line);
-    EXPECT_THAT(ex.what(), testing::HasSubstr(file + ", line " + std::to_string(line)));
   }
   EXPECT_EQ(place(it), before);
 }
@@ -60,24 +50,18 @@ TYPED_TEST_SUITE(IteratorSTLTest, Containers);
 TYPED_TEST(IteratorSTLTest, stepsThroughEveryPosition) {
   for (int const size : {0, 1, 3}) {
     SCOPED_TRACE(size);
-    Iterator<int> it = iteratorOver(containerOf<TypeParam>(size));
-    for (int i = 0; i < size; ++i, it.next()) {
+    Iterator<int> it = makeIterator(containerOf<TypeParam>(size));
+    for (int i = 0; i < size; ++i, it.next())
       EXPECT_EQ(place(it), placeOf(i, size));
-      EXPECT_EQ(it.getCardinality(), size);
-    }
     EXPECT_EQ(place(it), placeOf(size, size));
     EXPECT_EQ(it.getCardinality(), size);
-    expectOutOfRange(
-        it, [&] { it.next(); }, 148);
-    expectOutOfRange(
-        it, [&] { it++; }, 148);
+    expectOutOfRange(it, 148, [&] { it.next(); });
+    expectOutOfRange(it, 148, [&] { it++; });
 
     for (int i = size - 1; i >= 0; --i)
       EXPECT_EQ(place(it.previous()), placeOf(i, size));
-    expectOutOfRange(
-        it, [&] { it.previous(); }, 159);
-    expectOutOfRange(
-        it, [&] { it--; }, 159);
+    expectOutOfRange(it, 159, [&] { it.previous(); });
+    expectOutOfRange(it, 159, [&] { it--; });
   }
 }
 
@@ -85,27 +69,13 @@ TYPED_TEST(IteratorSTLTest, jumpsToEitherSide) {
   for (int const size : {0, 1, 3}) {
     SCOPED_TRACE(size);
     std::string const last = placeOf(std::max(size - 1, 0), size);
-    Iterator<int> it = iteratorOver(containerOf<TypeParam>(size));
+    Iterator<int> it = makeIterator(containerOf<TypeParam>(size));
     EXPECT_EQ(place(it.last()), last);
     EXPECT_EQ(place(it.first()), placeOf(0, size));
     EXPECT_EQ(place(it.end()), placeOf(size, size));
     EXPECT_EQ(place(it.last()), last);
     EXPECT_EQ(place(it.end().first()), placeOf(0, size));
   }
-}
-
-TYPED_TEST(IteratorSTLTest, copiesMoveOnTheirOwn) {
-  Iterator<int> it = iteratorOver(containerOf<TypeParam>(3));
-  Iterator<int> copy(it);
-  while (!copy.atEnd())
-    copy.next();
-  EXPECT_EQ(place(it), "begin 0");
-  EXPECT_EQ(copy.getCardinality(), it.getCardinality());
-
-  Iterator<int> const old = it++;
-  EXPECT_EQ(place(it.next()), "2");
-  EXPECT_EQ(place(old), "begin 0");
-  EXPECT_EQ(place(copy), "end");
 }
 
 TYPED_TEST(IteratorSTLTest, clonesShareTheContainer) {
@@ -160,14 +130,14 @@ TYPED_TEST(IteratorSTLTest, isNotComparedWithAnotherKindOfEngine) {
 }
 
 TYPED_TEST(IteratorSTLTest, needsAContainer) {
-  EXPECT_EQ(nullPointeeOf([] { iteratorOver(RCStrongPtr<TypeParam>()); }),
+  EXPECT_EQ(nullPointeeOf([] { makeIterator(RCStrongPtr<TypeParam>()); }),
             typeName(typeid(TypeParam*)));
 }
 
 TYPED_TEST(IteratorSTLTest, losesNothingWhenAnAllocationFails) {
   // At least the container, its elements, the count block, the engine and its clone.
   EXPECT_GE(forEachFailingAllocation([] {
-              Iterator<int> it = iteratorOver(containerOf<TypeParam>(2));
+              Iterator<int> it = makeIterator(containerOf<TypeParam>(2));
               it++;
             }),
             5);

@@ -3,7 +3,6 @@
 #include "nullPointee.h"
 
 #include <array>
-#include <vector>
 
 namespace Qv {
 namespace {
@@ -141,14 +140,6 @@ TEST_P(IteratorOperationTest, losesNothingWhenTheCloneCannotBeAllocated) {
               }
             }),
             2);
-}
-
-TEST_F(IteratorTest, usualLoopNeedsNoClone) {
-  std::vector<int> seen;
-  for (It it = iteratorAt(numbers, 0); !it.atEnd(); it.next())
-    seen.push_back(it.item());
-  EXPECT_EQ(seen, (std::vector<int>{10, 20, 30, 40}));
-  EXPECT_EQ(numbers.clones, 0);
 }
 
 TEST_F(IteratorTest, readingSharesTheEngine) {

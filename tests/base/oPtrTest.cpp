@@ -15,10 +15,7 @@ struct Special : Owned {
   std::string text = std::string(100, 'x');
 };
 
-class OPtrTest : public NoLeaks {
-protected:
-  ~OPtrTest() override { EXPECT_EQ(Owned::living, 0); }
-};
+class OPtrTest : public NoLeaks {};
 
 TEST_F(OPtrTest, passingByValueHandsTheObjectOver) {
   auto const consume = [](OPtr<Owned> owner) { return owner.get(); };

@@ -5,80 +5,93 @@
 namespace Qv {
 namespace {
 
-struct Plain {
+/// A pointee, with or without a count of its own.
+template <template <class> class Pointer, class Base> class Node : public Base {
+public:
   static inline int living = 0;
 
-  Plain() { ++living; }
-  ~Plain() { --living; }
+  Node() { ++living; }
+  ~Node() { --living; }
 
-  RCStrongPtr<Plain> next;
+  Pointer<Node> next;
 };
-using Ptr = RCStrongPtr<Plain>;
+struct Uncounted {};
 
-class RCStrongPtrTest : public NoLeaks {
+template <class T> int countOf(RCShdPtr<T> const& pointer) { return pointer->getRefCount(); }
+template <class T> int countOf(RCStrongPtr<T> const& pointer) { return pointer.getStrongCount(); }
+
+/// What RCShdPtr and RCStrongPtr have in common.
+template <class T> class SharingPtrTest : public NoLeaks {
 protected:
-  ~RCStrongPtrTest() override { EXPECT_EQ(Plain::living, 0); }
+  using Pointee = std::remove_reference_t<decltype(*T())>;
 };
+using Pointers = testing::Types<RCShdPtr<Node<RCShdPtr, RCBase<LkCounter<int>>>>,
+                                RCStrongPtr<Node<RCStrongPtr, Uncounted>>>;
+TYPED_TEST_SUITE(SharingPtrTest, Pointers);
 
-TEST_F(RCStrongPtrTest, eachPointerIsOneStrongReference) {
-  Ptr const pointer(new Plain);
-  EXPECT_EQ(pointer.getStrongCount(), 1);
+TYPED_TEST(SharingPtrTest, eachPointerIsOneReference) {
+  using Pointee = typename TestFixture::Pointee;
+  TypeParam const pointer(new Pointee);
+  EXPECT_EQ(countOf(pointer), 1);
   {
-    Ptr const copy(pointer);
+    TypeParam const copy(pointer);
     EXPECT_EQ(copy.get(), pointer.get());
-    EXPECT_EQ(pointer.getStrongCount(), 2);
+    EXPECT_EQ(countOf(pointer), 2);
   }
-  EXPECT_EQ(pointer.getStrongCount(), 1);
-  EXPECT_EQ(Plain::living, 1);
+  EXPECT_EQ(countOf(pointer), 1);
+  EXPECT_EQ(Pointee::living, 1);
 }
 
-TEST_F(RCStrongPtrTest, nullHoldsNothing) {
-  Ptr const null(nullptr);
-  Ptr const copy(null);
-  EXPECT_FALSE(copy);
-  EXPECT_EQ(copy.getStrongCount(), 0);
-  EXPECT_EQ(nullPointeeOf([&] { *copy; }), "Qv::(anonymous namespace)::Plain*");
-  EXPECT_EQ(nullPointeeOf([&] { copy->next.get(); }), "Qv::(anonymous namespace)::Plain*");
-}
-
-TEST_F(RCStrongPtrTest, assignmentMovesTheStrongReference) {
-  Ptr pointer(new Plain);
-  Ptr const other(new Plain);
+TYPED_TEST(SharingPtrTest, assignmentMovesTheReference) {
+  using Pointee = typename TestFixture::Pointee;
+  TypeParam pointer(new Pointee);
+  TypeParam const other(new Pointee);
   pointer = other;
-  EXPECT_EQ(Plain::living, 1);
+  EXPECT_EQ(Pointee::living, 1);
   EXPECT_EQ(pointer.get(), other.get());
-  EXPECT_EQ(other.getStrongCount(), 2);
+  EXPECT_EQ(countOf(other), 2);
 
-  pointer = Ptr(other);
+  pointer = TypeParam(other);
   auto const& self = pointer;
   pointer = self;
-  EXPECT_EQ(other.getStrongCount(), 2);
+  EXPECT_EQ(countOf(other), 2);
 
-  pointer = Ptr();
+  pointer = TypeParam();
   EXPECT_FALSE(pointer);
-  EXPECT_EQ(other.getStrongCount(), 1);
+  EXPECT_EQ(countOf(other), 1);
 
   pointer = other;
-  EXPECT_EQ(pointer->next.getStrongCount(), 0);
-  EXPECT_EQ(other.getStrongCount(), 2);
+  EXPECT_EQ(countOf(other), 2);
 }
 
-TEST_F(RCStrongPtrTest, assigningNullDeletesTheUnsharedPointee) {
-  Ptr pointer(new Plain);
-  pointer = Ptr();
-  EXPECT_EQ(Plain::living, 0);
-  EXPECT_EQ(pointer.getStrongCount(), 0);
+TYPED_TEST(SharingPtrTest, assignmentFromWithinThePointee) {
+  using Pointee = typename TestFixture::Pointee;
+  for (bool const moved : {false, true}) {
+    SCOPED_TRACE(moved);
+    TypeParam node(new Pointee);
+    node->next = TypeParam(new Pointee);
+    Pointee const* const second = node->next.get();
+    if (moved)
+      node = std::move(node->next);
+    else
+      node = node->next;
+    EXPECT_EQ(node.get(), second);
+    EXPECT_EQ(countOf(node), 1);
+    EXPECT_EQ(Pointee::living, 1);
+  }
 }
 
-TEST_F(RCStrongPtrTest, assignmentFromWithinThePointee) {
-  Ptr head(new Plain);
-  head->next = Ptr(new Plain);
-  Plain const* const second = head->next.get();
-  head = head->next;
-  EXPECT_EQ(head.get(), second);
-  EXPECT_EQ(head.getStrongCount(), 1);
-  EXPECT_EQ(Plain::living, 1);
+TYPED_TEST(SharingPtrTest, nullHoldsNothing) {
+  TypeParam const null(nullptr);
+  TypeParam const copy(null);
+  EXPECT_FALSE(copy);
+  std::string const type = typeName(typeid(typename TestFixture::Pointee*));
+  EXPECT_EQ(nullPointeeOf([&] { *copy; }), type);
+  EXPECT_EQ(nullPointeeOf([&] { copy->next.get(); }), type);
+  EXPECT_EQ(RCStrongPtr<int>().getStrongCount(), 0);
 }
+
+class RCStrongPtrTest : public NoLeaks {};
 
 /// Looks at the pointer that held it when it dies, and may put something else there.
 struct Watcher {
@@ -97,29 +110,22 @@ struct Watcher {
 };
 
 TEST_F(RCStrongPtrTest, pointeeDiesBehindAPointerThatHasLetItGo) {
-  Watcher::died = 0;
-  {
-    RCStrongPtr<Watcher> pointer;
-    pointer = RCStrongPtr<Watcher>(new Watcher{pointer});
-    pointer = RCStrongPtr<Watcher>(new Watcher{pointer});
-    EXPECT_EQ(Watcher::died, 1);
+  for (bool const replaces : {false, true}) {
+    Watcher::died = 0;
+    {
+      RCStrongPtr<Watcher> pointer;
+      pointer = RCStrongPtr<Watcher>(new Watcher{pointer, replaces});
+      pointer = RCStrongPtr<Watcher>(new Watcher{pointer});
+      EXPECT_EQ(Watcher::died, replaces ? 2 : 1);
+    }
+    EXPECT_EQ(Watcher::died, replaces ? 3 : 2);
   }
-  EXPECT_EQ(Watcher::died, 2);
-}
-
-TEST_F(RCStrongPtrTest, pointeeMayReplaceWhatReplacedIt) {
-  Watcher::died = 0;
-  {
-    RCStrongPtr<Watcher> pointer;
-    pointer = RCStrongPtr<Watcher>(new Watcher{pointer, true});
-    pointer = RCStrongPtr<Watcher>(new Watcher{pointer});
-    EXPECT_EQ(Watcher::died, 2);
-  }
-  EXPECT_EQ(Watcher::died, 3);
 }
 
 TEST_F(RCStrongPtrTest, pointeeIsDeletedWhenTheBlockCannotBeAllocated) {
-  EXPECT_EQ(forEachFailingAllocation([] { Ptr const pointer(new Plain); }), 2);
+  // The pointee, its text and the block.
+  using Ptr = RCStrongPtr<std::string>;
+  EXPECT_EQ(forEachFailingAllocation([] { Ptr const pointer(new std::string(100, 'x')); }), 3);
 }
 
 } // namespace
