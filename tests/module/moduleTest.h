@@ -5,6 +5,7 @@
 #include "allocations.h"
 #include "assertions.h"
 #include "hostBrRegistry.h"
+#include "hostImage.h"
 #include "hostJournal.h"
 #include "hostPackageManager.h"
 #include "hostResources.h"
@@ -23,22 +24,22 @@
 namespace Qv {
 
 /// Starts and ends with empty registries and a journal that is not kept, and loses no allocation.
-class ModuleTest : public testing::Test {
+class ModuleTest : public NoLeaks {
 protected:
-  ModuleTest() {
-    // The first trace of a thread allocates what the thread then keeps.
-    { SCOPED_TRACE(""); }
-    [[maybe_unused]] static bool const grown = (growRegistries(), true);
-    before_ = liveAllocations();
+  /// Fills every registry once: what is cleared keeps the storage of its elements.
+  static void SetUpTestSuite() {
     HostResources::getInstance().setDirectory(RESOURCE_DIR);
-  }
-  ~ModuleTest() override {
+    tools_.addCategory("x");
+    tools_.addTool({.name = "x", .category = "x", .superTool = true});
+    views_.addView({"x", "x"});
+    tooltips_.setTooltip("x", "x");
+    journal_.start();
+    initializePackage();
     clear();
-    // The record of a failure is an allocation too.
-    if (!HasFailure()) {
-      EXPECT_EQ(liveAllocations() - before_, 0) << "allocations were lost";
-    }
   }
+
+  ModuleTest() { HostResources::getInstance().setDirectory(RESOURCE_DIR); }
+  ~ModuleTest() override { clear(); }
 
   /// Has the module register all that it contributes, until the test ends.
   static void initializePackage() {
@@ -53,27 +54,15 @@ protected:
     return PbrViewBrowsable::create(&viewServer_, path);
   }
 
-  HostToolRegistry& tools_ = HostToolRegistry::getInstance();
-  HostViewFactory& views_ = HostViewFactory::getInstance();
-  HostTtServer& tooltips_ = HostTtServer::getInstance();
-  HostJournal& journal_ = HostJournal::getInstance();
+  static inline HostToolRegistry& tools_ = HostToolRegistry::getInstance();
+  static inline HostViewFactory& views_ = HostViewFactory::getInstance();
+  static inline HostTtServer& tooltips_ = HostTtServer::getInstance();
+  static inline HostJournal& journal_ = HostJournal::getInstance();
   PbrToolServer toolServer_;
   PbrViewServer viewServer_;
 
 private:
-  /// Fills every registry once: what is cleared keeps the storage of its elements.
-  void growRegistries() {
-    HostResources::getInstance().setDirectory(RESOURCE_DIR);
-    tools_.addCategory("x");
-    tools_.addTool({.name = "x", .category = "x", .superTool = true});
-    views_.addView({"x", "x"});
-    tooltips_.setTooltip("x", "x");
-    journal_.start();
-    initializePackage();
-    clear();
-  }
-
-  void clear() {
+  static void clear() {
     journal_.start();
     journal_.stop();
     HostPackageManager::getInstance().uninitializeAll();
@@ -83,8 +72,6 @@ private:
     views_.clear();
     tooltips_.clear();
   }
-
-  long before_ = 0;
 };
 
 constexpr BrBrowsable::FindFilter AllChildren{0};
@@ -116,8 +103,8 @@ template <class T> std::vector<T> collect(Iterator<T> elements) {
 /// The paths of the items of a sequence.
 inline std::vector<std::string> paths(Iterator<RCShdPtr<BrBrowsable>> items) {
   std::vector<std::string> result;
-  for (; !items.atEnd(); items.next())
-    result.push_back(items.item()->getPath());
+  for (RCShdPtr<BrBrowsable> const& item : collect(items))
+    result.push_back(item->getPath());
   return result;
 }
 
@@ -126,6 +113,35 @@ inline std::string attribute(BrBrowsable& item, unsigned int attributeId) {
   LiString value("unwritten");
   item.get(int(attributeId), &value);
   return value;
+}
+
+/// Expects that an item asks for the thumbnail of that key, of whatever size, and has no other
+/// image.
+inline void expectThumbnail(BrBrowsable& item, LiString const& key) {
+  HostJournal& journal = HostJournal::getInstance();
+  journal.start();
+  auto const image = item.getImage(int(BrBrowsable::THUMBNAIL), {1, 1});
+  EXPECT_FALSE(item.getImage(int(BrBrowsable::NAME), {128, 128}));
+  EXPECT_THAT(journal.getEntries(),
+              testing::ElementsAre(HostJournal::Entry{"BrRegistry::getThumbnail", key, ""}));
+  EXPECT_EQ(image.checkedCast<HostImage>()->getName(), key + ".tif");
+  EXPECT_EQ(item.getImage(int(BrBrowsable::THUMBNAIL), {512, 512}), image);
+}
+
+/// Expects what items of both schemes answer alike, that they do not let their name be set, and
+/// that the other attributes are left to the base class.
+inline void expectRemainingAttributes(BrBrowsable& item, std::vector<unsigned int> const& others) {
+  item.set(int(BrBrowsable::NAME), LiString("other"));
+  item.set(int(BrBrowsable::NAME), 7LL);
+  EXPECT_EQ(attribute(item, BrBrowsable::ROOT_NAME), "Plugin Registry");
+  for (unsigned int const id :
+       {BrBrowsable::OWNER, BrBrowsable::LMTIME, BrBrowsable::CREATION_TIME})
+    EXPECT_EQ(attribute(item, id), BrBrowsable::NotAvailableString);
+  for (unsigned int const id : others) {
+    LiString expected;
+    item.BrBrowsable::get(int(id), &expected);
+    EXPECT_EQ(attribute(item, id), expected);
+  }
 }
 
 /// The calls that the journal holds, as "operation(key)".

@@ -1,11 +1,12 @@
 #include "moduleTest.h"
 
+#include "hostError.h"
+
 namespace Qv {
 
 namespace {
 
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 class ToolBrowsable : public ModuleTest {
@@ -24,47 +25,55 @@ protected:
   }
 };
 
+/// What items of the same look have in common.
+struct Kind {
+  PbrToolBrowsable::Type type;
+  bool superTool;
+  char const* typeString;
+  char const* thumbnail;
+  bool container;
+  bool picklistable;
+};
+
 TEST_F(ToolBrowsable, isWhatItsPathSays) {
+  using Item = PbrToolBrowsable;
+  Kind const folder{Item::FOLDER, false, "Tools Folder", "folderThumbnail", true, false};
+  Kind const category{Item::CATEGORY, false, "Tool Category", "folderThumbnail", true, false};
+  Kind const superCategory{Item::CATEGORY, true, "Super Tool", "superToolThumbnail", true, true};
+  Kind const superTool{Item::TOOL, true, "Super Tool", "superToolThumbnail", true, true};
+  Kind const plainTool{Item::TOOL, false, "Tool", "toolThumbnail", false, true};
   struct Case {
     char const* path;
-    PbrToolBrowsable::Type type;
+    Kind const& kind;
     char const* name;
-    bool superTool;
-    char const* typeString;
-    bool container;
-    bool picklistable;
     std::vector<std::string> children;
   };
-  using Type = PbrToolBrowsable;
-  std::vector<std::string> const categories = {"Colour", "Key", "Key", "Empty", "Grade"};
-  std::vector<std::string> const tools = {"invert", "Grade", "blur"};
   for (Case const& item :
-       {Case{"", Type::FOLDER, "Tools", false, "Tools Folder", true, false, categories},
-        Case{"//", Type::FOLDER, "Tools", false, "Tools Folder", true, false, categories},
-        Case{"Colour", Type::CATEGORY, "Colour", false, "Tool Category", true, false, tools},
-        Case{"Empty", Type::CATEGORY, "Empty", false, "Tool Category", true, false, {}},
-        Case{"nosuch", Type::CATEGORY, "nosuch", false, "Tool Category", true, false, {}},
-        Case{"/Grade/", Type::CATEGORY, "Grade", true, "Super Tool", true, true, {"lift"}},
-        Case{"Colour/invert", Type::TOOL, "invert", false, "Tool", false, true, {}},
-        Case{"/Colour//Grade", Type::TOOL, "Grade", true, "Super Tool", true, true, {}},
-        Case{"nosuch/none", Type::TOOL, "none", false, "Tool", false, true, {}}}) {
+       {Case{"", folder, "Tools", {"Colour", "Key", "Key", "Empty", "Grade"}},
+        Case{"//", folder, "Tools", {"Colour", "Key", "Key", "Empty", "Grade"}},
+        Case{"Colour", category, "Colour", {"invert", "Grade", "blur"}},
+        Case{"Empty", category, "Empty", {}}, Case{"nosuch", category, "nosuch", {}},
+        Case{"/Grade/", superCategory, "Grade", {"lift"}},
+        Case{"Colour/invert", plainTool, "invert", {}},
+        Case{"/Colour//Grade", superTool, "Grade", {}},
+        Case{"nosuch/none", plainTool, "none", {}}}) {
     SCOPED_TRACE(item.path);
     RCShdPtr<PbrToolBrowsable> const browsable = tool(item.path);
     EXPECT_EQ(browsable->getRefCount(), 1);
     EXPECT_EQ(browsable->getServer(), &toolServer_);
     EXPECT_EQ(browsable->getPath(), item.path);
     EXPECT_EQ(browsable->getSchemeName(), "tools");
-    EXPECT_EQ(browsable->getToolBrowsableType(), item.type);
+    EXPECT_EQ(browsable->getToolBrowsableType(), item.kind.type);
     EXPECT_EQ(browsable->getToolName(), item.name);
-    EXPECT_EQ(browsable->isSuperTool(), item.superTool);
-    EXPECT_EQ(browsable->isAContainer(), item.container);
-    EXPECT_EQ(browsable->hasChildren(AnyChildren, NoOption), item.container);
-    EXPECT_EQ(browsable->hasChildren(ContainerChildren, NoOption),
-              item.type == PbrToolBrowsable::FOLDER);
-    EXPECT_EQ(browsable->isPicklistable(), item.picklistable);
-    EXPECT_THAT(collect(browsable->getChildren()), ElementsAreArray(item.children));
+    EXPECT_EQ(browsable->isSuperTool(), item.kind.superTool);
+    EXPECT_EQ(browsable->isAContainer(), item.kind.container);
+    EXPECT_EQ(browsable->hasChildren(AnyChildren, NoOption), item.kind.container);
+    EXPECT_EQ(browsable->hasChildren(ContainerChildren, NoOption), &item.kind == &folder);
+    EXPECT_EQ(browsable->isPicklistable(), item.kind.picklistable);
+    EXPECT_EQ(collect(browsable->getChildren()), item.children);
     EXPECT_EQ(attribute(*browsable, BrBrowsable::NAME), item.name);
-    EXPECT_EQ(attribute(*browsable, BrBrowsable::BROWSABLE_TYPE), item.typeString);
+    EXPECT_EQ(attribute(*browsable, BrBrowsable::BROWSABLE_TYPE), item.kind.typeString);
+    expectThumbnail(*browsable, LiString(item.kind.thumbnail));
   }
 }
 
@@ -74,21 +83,17 @@ TEST_F(ToolBrowsable, refusesLongerPaths) {
 }
 
 TEST_F(ToolBrowsable, asksTheRegistryOnceAndNeverAgain) {
-  struct Case {
-    char const* path;
-    std::vector<std::string> calls;
-  };
-  for (Case const& item : std::vector<Case>{
-           {"", {"PiToolRegistry::getCategories()"}},
-           {"Key", {"PiToolRegistry::getTools(Key)", "PiToolRegistry::isSuperTool(Key)"}},
-           {"Key/x", {"PiToolRegistry::isSuperTool(x)"}},
-       }) {
+  std::map<std::string, std::vector<std::string>> const callsByPath = {
+      {"", {"PiToolRegistry::getCategories()"}},
+      {"Key", {"PiToolRegistry::getTools(Key)", "PiToolRegistry::isSuperTool(Key)"}},
+      {"Key/x", {"PiToolRegistry::isSuperTool(x)"}}};
+  for (auto const& [path, expected] : callsByPath) {
     journal_.start();
-    RCShdPtr<PbrToolBrowsable> const browsable = tool(item.path);
+    RCShdPtr<PbrToolBrowsable> const browsable = tool(path);
     browsable->getChildren();
     browsable->isPicklistable();
     browsable->hasChildren(AnyChildren, NoOption);
-    EXPECT_THAT(calls(), ElementsAreArray(item.calls));
+    EXPECT_EQ(calls(), expected);
   }
 }
 
@@ -112,46 +117,17 @@ TEST_F(ToolBrowsable, equalsItemsOfTheSamePath) {
   EXPECT_TRUE(tool("Colour/blur")->isEqualTo(*tool("Colour/blur")));
   EXPECT_FALSE(tool("Colour/blur")->isEqualTo(*tool("Key/blur")));
   EXPECT_FALSE(tool("Colour/blur")->isEqualTo(*tool("Colour//blur")));
+  EXPECT_TRUE(tool("graph")->isEqualTo(*view("graph"))) << "even of another class";
 }
 
 TEST_F(ToolBrowsable, answersTheRemainingAttributes) {
   RCShdPtr<PbrToolBrowsable> const item = tool("Colour/invert");
-  item->set(int(BrBrowsable::NAME), LiString("other"));
-  item->set(int(BrBrowsable::NAME), 7LL);
+  expectRemainingAttributes(*item, {4711});
   EXPECT_EQ(attribute(*item, BrBrowsable::NAME), "invert");
-  EXPECT_EQ(attribute(*item, BrBrowsable::ROOT_NAME), "Plugin Registry");
   EXPECT_EQ(attribute(*item, BrBrowsable::BROWSABLE_ROLE), "");
-  for (unsigned int const id :
-       {BrBrowsable::OWNER, BrBrowsable::LMTIME, BrBrowsable::CREATION_TIME})
-    EXPECT_EQ(attribute(*item, id), BrBrowsable::NotAvailableString);
-
-  // Anything else is the base class's answer.
-  LiString expected;
-  item->BrBrowsable::get(4711, &expected);
-  EXPECT_EQ(attribute(*item, 4711), expected);
   long long number = -1;
   item->get(int(BrBrowsable::NAME), &number);
   EXPECT_EQ(number, 0);
-}
-
-TEST_F(ToolBrowsable, showsTheThumbnailOfItsKind) {
-  struct Case {
-    char const* path;
-    LiString key;
-  };
-  for (Case const& item : std::vector<Case>{{"", BrRegistry::FolderThumbnail},
-                                            {"Colour", BrRegistry::FolderThumbnail},
-                                            {"Grade", BrRegistry::SuperToolThumbnail},
-                                            {"Colour/Grade", BrRegistry::SuperToolThumbnail},
-                                            {"Colour/invert", BrRegistry::ToolThumbnail}}) {
-    RCShdPtr<PbrToolBrowsable> const browsable = tool(item.path);
-    journal_.start();
-    browsable->getImage(int(BrBrowsable::THUMBNAIL), {1, 1});
-    EXPECT_THAT(journal_.getEntries(),
-                ElementsAre(HostJournal::Entry{"BrRegistry::getThumbnail", item.key, ""}));
-    EXPECT_FALSE(browsable->getImage(int(BrBrowsable::NAME), {128, 128}));
-    EXPECT_EQ(journal_.getEntries().size(), 1U);
-  }
 }
 
 TEST_F(ToolBrowsable, composesItsTooltip) {
@@ -211,8 +187,66 @@ TEST_F(ToolBrowsable, passesItsFlagsToTheRegistry) {
                              HostJournal::Entry{"PiToolRegistry::findTool", "Colour", "false"}}));
 }
 
-TEST_F(ToolBrowsable, equalsAnItemOfAnotherClassAtTheSamePath) {
-  EXPECT_TRUE(tool("graph")->isEqualTo(*view("graph")));
+class ToolChildrenQuery : public ToolBrowsable {};
+
+TEST_F(ToolChildrenQuery, listsTheChildrenOnceInTheOrderOfTheRegistry) {
+  RCShdPtr<PbrToolBrowsable> const folder = tool("");
+  RCShdPtr<BrChildrenQuery> const query = folder->getChildren(AllChildren);
+  Iterator<RCShdPtr<BrBrowsable>> const children = query->getNextChildSequence();
+  EXPECT_TRUE(children.atBegin());
+  EXPECT_THAT(paths(children), ElementsAre("Colour", "Key", "Key", "Empty", "Grade"));
+  EXPECT_EQ(children.item()->getServer(), &toolServer_);
+  EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
+
+  tools_.clear();
+  query->reset();
+  Iterator<RCShdPtr<BrBrowsable>> const again = query->getNextChildSequence();
+  EXPECT_THAT(paths(again), ElementsAre("Colour", "Key", "Key", "Empty", "Grade"));
+  EXPECT_FALSE(again.item() == children.item());
+}
+
+TEST_F(ToolChildrenQuery, yieldsWhatTheContainerAndTheFilterSay) {
+  using Paths = std::vector<std::string>;
+  Paths const colours = {"/Colour/invert", "/Colour/Grade", "/Colour/blur"};
+  // The children of each item, and those of them that are items.
+  std::map<std::string, std::pair<Paths, Paths>> const childrenByPath = {
+      {"", {{"Colour", "Key", "Key", "Empty", "Grade"}, {}}},
+      {"Empty", {}},
+      {"/Colour/", {colours, colours}},
+      {"Colour/Grade", {}},
+      {"Colour/invert", {}}};
+  for (auto const& [path, expected] : childrenByPath) {
+    SCOPED_TRACE(path);
+    RCShdPtr<PbrToolBrowsable> const browsable = tool(path);
+    EXPECT_EQ(paths(browsable->getChildren(AllChildren)->getNextChildSequence()), expected.first);
+    RCShdPtr<BrChildrenQuery> const query = browsable->getChildren(ItemsOnly);
+    EXPECT_EQ(paths(query->getNextChildSequence()), expected.second);
+    EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
+  }
+}
+
+TEST_F(ToolChildrenQuery, staysPendingWhenAChildFails) {
+  RCShdPtr<PbrToolBrowsable> const category = tool("Colour");
+  RCShdPtr<BrChildrenQuery> const query = category->getChildren(AllChildren);
+  journal_.start();
+  journal_.failAt(2);
+  EXPECT_THROW(query->getNextChildSequence(), HostError);
+  EXPECT_THAT(calls(), ElementsAre("PiToolRegistry::isSuperTool(invert)",
+                                   "PiToolRegistry::isSuperTool(Grade)",
+                                   "PiToolRegistry::isSuperTool(blur)"));
+  journal_.stop();
+  EXPECT_THAT(paths(query->getNextChildSequence()),
+              ElementsAre("Colour/invert", "Colour/Grade", "Colour/blur"));
+}
+
+TEST_F(ToolChildrenQuery, losesNothingWhenMemoryRunsOut) {
+  RCShdPtr<PbrToolBrowsable> const folder = tool("");
+  EXPECT_GT(forEachFailingAllocation([&] {
+              RCShdPtr<BrChildrenQuery> const query = folder->getChildren(AllChildren);
+              Iterator<RCShdPtr<BrBrowsable>> children = query->getNextChildSequence();
+              children++;
+            }),
+            10);
 }
 
 } // namespace

@@ -1,10 +1,11 @@
 #include "moduleTest.h"
 
-#include "hostImage.h"
-
 namespace Qv {
 
 namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 class ViewBrowsable : public ModuleTest {
 protected:
@@ -32,7 +33,7 @@ TEST_F(ViewBrowsable, isWhatItsPathSays) {
     SCOPED_TRACE(item.path);
     journal_.start();
     RCShdPtr<PbrViewBrowsable> const browsable = view(item.path);
-    EXPECT_THAT(calls(), testing::IsEmpty()) << "whether there is such a view is not asked";
+    EXPECT_THAT(calls(), IsEmpty()) << "whether there is such a view is not asked";
     EXPECT_EQ(browsable->getRefCount(), 1);
     EXPECT_EQ(browsable->getServer(), &viewServer_);
     EXPECT_EQ(browsable->getPath(), item.path);
@@ -46,17 +47,10 @@ TEST_F(ViewBrowsable, isWhatItsPathSays) {
     EXPECT_EQ(attribute(*browsable, BrBrowsable::NAME), item.shownName);
     EXPECT_EQ(attribute(*browsable, BrBrowsable::BROWSABLE_TYPE),
               item.folder ? "Views Folder" : "View");
-    EXPECT_EQ(attribute(*browsable, BrBrowsable::ROOT_NAME), "Plugin Registry");
     EXPECT_EQ(browsable->getTooltip(7), item.tooltip);
 
-    LiString const& key = item.folder ? BrRegistry::FolderThumbnail : BrRegistry::ViewThumbnail;
-    journal_.start();
-    auto const image = browsable->getImage(int(BrBrowsable::THUMBNAIL), {1, 1});
-    EXPECT_THAT(journal_.getEntries(),
-                testing::ElementsAre(HostJournal::Entry{"BrRegistry::getThumbnail", key, ""}));
-    EXPECT_EQ(image.checkedCast<HostImage>()->getName(), key + ".tif");
-    EXPECT_EQ(browsable->getImage(int(BrBrowsable::THUMBNAIL), {512, 512}), image);
-    EXPECT_FALSE(browsable->getImage(int(BrBrowsable::NAME), {1, 1}));
+    expectThumbnail(*browsable,
+                    item.folder ? BrRegistry::FolderThumbnail : BrRegistry::ViewThumbnail);
   }
 }
 
@@ -74,25 +68,60 @@ TEST_F(ViewBrowsable, equalsItemsOfTheSameViewName) {
 
 TEST_F(ViewBrowsable, answersTheRemainingAttributes) {
   RCShdPtr<PbrViewBrowsable> const item = view("graph");
-  item->set(int(BrBrowsable::NAME), LiString("other"));
-  item->set(int(BrBrowsable::NAME), 7LL);
+  expectRemainingAttributes(*item, {BrBrowsable::BROWSABLE_ROLE, 4711});
   EXPECT_EQ(attribute(*item, BrBrowsable::NAME), "Node Graph");
-  for (unsigned int const id :
-       {BrBrowsable::OWNER, BrBrowsable::LMTIME, BrBrowsable::CREATION_TIME})
-    EXPECT_EQ(attribute(*item, id), BrBrowsable::NotAvailableString);
-
-  // Anything else is the base class's answer.
-  for (unsigned int const id : {BrBrowsable::BROWSABLE_ROLE, 4711U}) {
-    LiString expected;
-    item->BrBrowsable::get(int(id), &expected);
-    EXPECT_EQ(attribute(*item, id), expected);
-  }
 }
 
 TEST_F(ViewBrowsable, hasAPrototype) {
   RCShdPtr<PbrViewBrowsable> const prototype = PbrViewBrowsable::createBrowsableType();
   EXPECT_EQ(prototype->getServer(), nullptr);
   EXPECT_EQ(prototype->getViewName() + prototype->getPath(), "");
+}
+
+class ViewChildrenQuery : public ViewBrowsable {};
+
+TEST_F(ViewChildrenQuery, listsTheViewsOnceInTheOrderOfTheFactory) {
+  for (std::string const path : {"", "/"}) {
+    RCShdPtr<PbrViewBrowsable> const folder = view(path);
+    for (BrBrowsable::FindFilter const filter : {AllChildren, ItemsOnly}) {
+      RCShdPtr<BrChildrenQuery> const query = folder->getChildren(filter);
+      Iterator<RCShdPtr<BrBrowsable>> const children = query->getNextChildSequence();
+      EXPECT_TRUE(children.atBegin());
+      EXPECT_THAT(paths(children), ElementsAre(path + "graph", path + "Views"));
+      EXPECT_EQ(children.item()->getServer(), &viewServer_);
+      EXPECT_EQ(children.item().checkedCast<PbrViewBrowsable>()->getViewName(), "graph");
+      EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
+    }
+  }
+}
+
+TEST_F(ViewChildrenQuery, listsWhatTheFactoryKnowsAtThatMoment) {
+  RCShdPtr<PbrViewBrowsable> const folder = view("");
+  RCShdPtr<BrChildrenQuery> const query = folder->getChildren(AllChildren);
+  views_.clear();
+  EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
+  views_.addView({"late", ""});
+  EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty()) << "an empty list is delivered too";
+  query->reset();
+  EXPECT_THAT(paths(query->getNextChildSequence()), ElementsAre("late"));
+}
+
+TEST_F(ViewChildrenQuery, yieldsNothingForAView) {
+  RCShdPtr<PbrViewBrowsable> const item = view("graph");
+  RCShdPtr<BrChildrenQuery> const query = item->getChildren(AllChildren);
+  journal_.start();
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
+    query->reset();
+  }
+  EXPECT_THAT(calls(), IsEmpty());
+}
+
+TEST_F(ViewChildrenQuery, losesNothingWhenMemoryRunsOut) {
+  RCShdPtr<PbrViewBrowsable> const folder = view("");
+  EXPECT_GT(
+      forEachFailingAllocation([&] { folder->getChildren(ItemsOnly)->getNextChildSequence()++; }),
+      10);
 }
 
 } // namespace

@@ -52,15 +52,16 @@ template <class F> int forEachFailingAllocation(F f) {
   }
 }
 
-/// A test that must end with as many live allocations as it started with.
+/// A test that must end with as many live allocations as it started with. What a derived class
+/// makes in its constructor must go with it.
 class NoLeaks : public testing::Test {
 protected:
-  void SetUp() override {
+  NoLeaks() {
     // The first trace of a thread allocates what the thread then keeps.
     { SCOPED_TRACE(""); }
     before_ = liveAllocations();
   }
-  void TearDown() override {
+  ~NoLeaks() override {
     // The record of a failure is an allocation too.
     if (!HasFailure()) {
       EXPECT_EQ(liveAllocations() - before_, 0) << "allocations were lost";
