@@ -1,5 +1,5 @@
 #include "frei0rTools.h"
-#include "hostError.h"
+#include "refusal.h"
 #include "temporaryDirectory.h"
 
 #include <gmock/gmock.h>
@@ -16,19 +16,11 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class Frei0rTools : public TemporaryDirectory {
+class Frei0rTools : public testing::Test, protected TemporaryDirectory {
 protected:
   fs::path install(fs::path const& plugin, char const* name) const {
     fs::copy_file(plugin, directory_ / name);
     return directory_ / name;
-  }
-  static std::string refusal(fs::path const& directory) {
-    try {
-      readFrei0rTools(directory);
-    } catch (HostError const& error) {
-      return error.what();
-    }
-    return "it was accepted";
   }
 };
 
@@ -88,9 +80,12 @@ TEST_F(Frei0rTools, ThatCannotBeReadAreLeftOut) {
 }
 
 TEST_F(Frei0rTools, AreNeededInTheDirectory) {
-  EXPECT_THAT(refusal(directory_), AllOf(HasSubstr(directory_.string()), HasSubstr("no plug-in")));
-  fs::path const missing = directory_ / "missing";
-  EXPECT_THAT(refusal(missing), AllOf(HasSubstr(missing.string()), HasSubstr("No such file")));
+  auto const reading = [](fs::path const& directory) {
+    return refusalOf([&] { readFrei0rTools(directory); });
+  };
+  EXPECT_THAT(reading(directory_), AllOf(HasSubstr(directory_.string()), HasSubstr("no plug-in")));
+  EXPECT_THAT(reading(directory_ / "missing"),
+              AllOf(HasSubstr("missing\""), HasSubstr("No such file")));
 }
 
 } // namespace

@@ -1,22 +1,17 @@
-#include "runProgram.h"
 #include "temporaryDirectory.h"
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <iomanip>
 #include <nlohmann/json.hpp>
-#include <sstream>
+#include <sys/wait.h>
 
 namespace Qv {
 
 namespace {
 
 using nlohmann::json;
-using nlohmann::literals::operator""_json;
-using testing::AllOf;
+using namespace nlohmann::literals;
 using testing::ElementsAre;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::MatchesRegex;
 using testing::Not;
@@ -38,14 +33,12 @@ constexpr char Catalogue[] = R"({
     {"name": "plan", "label": "Site plan", "tooltip": "From above."},
     {"name": "übersichtsplan", "label": "Overview"}]})";
 
-/// The words of a command line; double quotes keep blanks in a word.
-Strings words(std::string const& line) {
-  Strings result;
-  std::istringstream stream(line);
-  for (std::string word; stream >> std::quoted(word);)
-    result.push_back(word);
-  return result;
-}
+/// How a program ended and what it wrote.
+struct ProgramRun {
+  int status;
+  std::string out;
+  std::string err;
+};
 
 /// What a terminal shows, without its styles and with the line ends of a file.
 std::string withoutStyles(std::string text) {
@@ -56,8 +49,8 @@ std::string withoutStyles(std::string text) {
 }
 
 /// A member of each element of an array.
-Strings all(json const& array, char const* key) {
-  Strings values;
+template <class T = std::string> std::vector<T> all(json const& array, char const* key) {
+  std::vector<T> values;
   for (json const& element : array)
     values.push_back(element.at(key));
   return values;
@@ -79,14 +72,21 @@ void expectFailure(ProgramRun const& run, Strings const& reasons) {
 }
 
 /// Runs the program in a directory that holds a catalogue.
-class QvBrowse : public TemporaryDirectory {
+class QvBrowse : public testing::Test, protected TemporaryDirectory {
 protected:
   QvBrowse() { write("catalogue.json", Catalogue); }
 
-  ProgramRun run(std::string const& arguments, std::string const& prefix = "",
-                 Stdout kind = Stdout::Pipe) const {
-    return runProgram(words(prefix + " \"" QVBROWSE_FILE "\" " + arguments), directory_, kind);
+  /// Has the shell run a command in the directory.
+  ProgramRun runInShell(std::string const& command) const {
+    std::string const line =
+        "cd '" + directory_.string() + "' && (" + command + ") >out 2>err </dev/null";
+    int const status = std::system(line.c_str());
+    return {WEXITSTATUS(status), read("out"), read("err")};
   }
+  static std::string commandLine(std::string const& arguments) {
+    return "\"" QVBROWSE_FILE "\" " + arguments;
+  }
+  ProgramRun run(std::string const& arguments) const { return runInShell(commandLine(arguments)); }
   ProgramRun browse(std::string const& arguments) const {
     return run("--tools catalogue.json " + arguments);
   }
@@ -107,7 +107,7 @@ TEST_F(QvBrowseCall, ExplainsItself) {
                                     "actions", "run-action", "drag", "detail"}) {
     EXPECT_THAT(overview, HasSubstr("\n  " + command + " "));
     EXPECT_THAT(result(run(command + " --help")),
-                AllOf(HasSubstr("Usage: qvbrowse " + command + " "), HasSubstr("--json")));
+                testing::AllOf(HasSubstr("Usage: qvbrowse " + command + " "), HasSubstr("--json")));
   }
   EXPECT_THAT(result(run("--version")), MatchesRegex("qvbrowse [0-9]+\\.[0-9.]+\n"));
 }
@@ -124,7 +124,7 @@ TEST_F(QvBrowseCall, WrongUseHasItsOwnStatus) {
        {"prune", "--tools catalogue.json prune", "--prune", "ls tools --prune", "schemes packages",
         "ls tools a surplus", "tree tools --depth -1", "tree tools --depth two",
         "tree tools --depth 1e99", "ls tools --filter few"})
-    expectUsageError(lastIsWrong, words(lastIsWrong).back());
+    expectUsageError(lastIsWrong, lastIsWrong.substr(lastIsWrong.rfind(' ') + 1));
   for (char const* const tooShort :
        {"ls", "show tools", "drag tools", "detail tools", "run-action Open", "--tools", "--module",
         "tree tools --depth"})
@@ -141,45 +141,18 @@ TEST_F(QvBrowseCall, OptionsMayStandAfterTheCommand) {
 
 TEST_F(QvBrowseCall, FailsWhenTheResultCannotBeWritten) {
   for (std::string const arguments : {"tree tools", "drag tools Wood"})
-    expectFailure(
-        run("--tools catalogue.json " + arguments, R"(sh -c "exec \"$0\" \"$@\" >/dev/full")"),
-        {"cannot write", "No space left"});
+    expectFailure(browse(arguments + " >/dev/full"), {"cannot write", "No space left"});
 }
 
 class QvBrowseRefuses : public QvBrowse {};
 
-TEST_F(QvBrowseRefuses, AModuleThatIsNone) {
-  for (auto const& [file, reasons] :
-       Cases{{"missing.qvmodule", {"\"missing.qvmodule\"", "no such file"}},
-             {"catalogue.json", {"catalogue.json\"", "ELF header"}},
-             {EMPTYMODULE_FILE, {EMPTYMODULE_FILE, "registers no package"}},
-             {LOSTMODULE_FILE, {"\"lost\"", "QvInit::nowhere", "no loaded library provides"}}}) {
-    SCOPED_TRACE(file);
-    expectFailure(browse("--module \"" + file + "\" schemes"), reasons);
-  }
-}
-
-TEST_F(QvBrowseRefuses, ASourceWithAFault) {
-  for (auto const& [text, reasons] :
-       Cases{{"{\n  parts: []}", {"\"faulty.json\"", "line 2, column 3", "invalid literal"}},
-             {R"({"tools": {}})", {"/tools", "expected an array, found object"}},
-             {R"({"categories": [""]})", {"/categories/0", "empty"}},
-             {R"({"tools": [{"name": "a/b", "category": "c"}]})", {"/tools/0/name", "\"a/b\""}},
-             {R"({"categories": ["c"], "tools": [{"name": "t", "category": "d"}]})",
-              {"/tools/0/category", "\"d\" is not listed"}}}) {
-    SCOPED_TRACE(text);
-    write("faulty.json", text);
-    for (char const* const before : {"", "--tools catalogue.json "})
-      expectFailure(run(before + std::string("--tools faulty.json")), reasons);
-  }
-  for (std::string const source : {"missing", "frei0r:missing"})
-    expectFailure(run("--tools " + source), {"\"missing\"", "No such file"});
-  expectFailure(run("--tools frei0r:."), {"\".\"", "no plug-in file"});
-}
-
-TEST_F(QvBrowseRefuses, WhatIsNotThere) {
+TEST_F(QvBrowseRefuses, InOneSentence) {
+  write("faulty.json", R"({"tools": {}})");
   for (auto const& [arguments, reasons] :
-       Cases{{"ls \"a\x1b\nb\"", {R"("a\x1b\nb")"}},
+       Cases{{"--tools faulty.json", {"\"faulty.json\"", "/tools", "expected an array"}},
+             {"--tools frei0r:missing", {"\"missing\"", "No such file"}},
+             {"--module missing.qvmodule schemes", {"\"missing.qvmodule\"", "no such file"}},
+             {"ls \"a\x1b\nb\"", {R"("a\x1b\nb")"}},
              {"ls parts", {"\"parts\"", "\"tools\", \"views\""}},
              {"drag parts a", {"\"parts\""}},
              {"tree tools a/b/c", {"\"tools\"", "\"a/b/c\""}},
@@ -218,30 +191,13 @@ TEST_F(QvBrowseSources, BringViewsOrGetTheOwnOnes) {
 
 TEST_F(QvBrowseSources, LeaveOutPluginsThatCannotBeRead) {
   install(CLOUDSPLUGIN_FILE, "clouds.so");
-  install(HALFPLUGIN_FILE, "half.so");
-  install(MUTEPLUGIN_FILE, "mute.so");
   write("plugins/text\n.so", "no plug-in");
-  ProgramRun const shown = run("--tools frei0r:plugins tree tools");
+  ProgramRun const shown = run("--tools frei0r:plugins ls tools");
   EXPECT_EQ(shown.status, 0);
-  EXPECT_EQ(shown.out, "Tools  [Tools Folder]\n"
-                       "├── Source  [Tool Category]\n"
-                       "│   └── clouds  [Tool]\n"
-                       "└── Mixer2  [Tool Category]\n"
-                       "    └── mute  [Tool]\n");
+  EXPECT_EQ(shown.out, "Type           Tool\n"
+                       "Tool Category  Source\n");
   EXPECT_THAT(shown.err,
-              MatchesRegex("qvbrowse: [^\n]*\"plugins/half.so\"[^\n]*f0r_get_plugin_info\n"
-                           "qvbrowse: [^\n]*\"plugins/text\\\\n.so\"[^\n]*file too short\n"));
-}
-
-TEST_F(QvBrowseSources, OfManyToolsAreShownWhole) {
-  json tools;
-  for (int tool = 0; tool < 100 * 200; ++tool)
-    tools.push_back({{"name", "tool" + std::to_string(tool)},
-                     {"category", "category" + std::to_string(tool / 200)}});
-  write("many.json", json{{"tools", tools}}.dump());
-  std::string const tree = result(run("--tools many.json tree tools"));
-  EXPECT_EQ(std::count(tree.begin(), tree.end(), '\n'), 1 + 100 + 100 * 200);
-  EXPECT_THAT(tree, EndsWith("    └── tool19999  [Tool]\n"));
+              MatchesRegex("qvbrowse: [^\n]*\"plugins/text\\\\n.so\"[^\n]*file too short\n"));
 }
 
 class QvBrowseJson : public QvBrowse {};
@@ -250,11 +206,9 @@ TEST_F(QvBrowseJson, ListsChildren) {
   for (auto const& [arguments, paths] :
        Cases{{"tools", {"Empty", "Kit", "Wood", "Wood"}},
              {"tools --unsorted", {"Wood", "Kit", "Empty", "Wood"}},
-             {"tools --unsorted --filter all", {"Wood", "Kit", "Empty", "Wood"}},
              {"tools --filter items", {}},
              {"tools Wood", {"Wood/größe", "Wood/saw"}},
              {"tools Wood --unsorted --filter items", {"Wood/saw", "Wood/größe"}},
-             {"tools Wood/saw", {}},
              {"views", {"übersichtsplan", "plan"}},
              {"views --unsorted --filter items", {"plan", "übersichtsplan"}}})
     EXPECT_EQ(all(browseJson("ls " + arguments), "path"), paths) << arguments;
@@ -263,102 +217,69 @@ TEST_F(QvBrowseJson, ListsChildren) {
 }
 
 TEST_F(QvBrowseJson, GivesTreesDownToADepth) {
-  json const whole = browseJson("tree tools");
-  json const wood = R"({"name": "Wood", "type": "Tool Category", "path": "Wood", "children": [
-      {"name": "saw", "type": "Tool", "path": "Wood/saw"},
-      {"name": "größe", "type": "Tool", "path": "Wood/größe"}]})"_json;
-  json expected = R"({"name": "Tools", "type": "Tools Folder", "path": "", "children": [null,
-    {"name": "Kit", "type": "Super Tool", "path": "Kit", "children": [
-      {"name": "Kit", "type": "Super Tool", "path": "Kit/Kit", "children": []}]},
-    {"name": "Empty", "type": "Tool Category", "path": "Empty", "children": []}, null]})"_json;
-  expected["children"][0] = expected["children"][3] = wood;
-  EXPECT_EQ(whole, expected);
-  EXPECT_EQ(browseJson("tree tools --depth 9"), whole);
-  EXPECT_EQ(browseJson("tree tools Wood"), wood);
-  EXPECT_EQ(browseJson(""), json::array({whole, browseJson("tree views")}));
-  EXPECT_EQ(browseJson("tree"), browseJson(""));
+  json const kit = R"({"name": "Kit", "type": "Super Tool", "path": "Kit", "children": [
+      {"name": "Kit", "type": "Super Tool", "path": "Kit/Kit", "children": []}]})"_json;
+  EXPECT_EQ(browseJson("tree tools Kit"), kit);
+  json tools = browseJson("tree tools");
+  EXPECT_EQ(tools["children"][1], kit);
+  EXPECT_EQ(browseJson(""), json::array({tools, browseJson("tree views")}));
+  EXPECT_EQ(browseJson("tree tools --depth 3"), tools);
 
-  for (json& category : expected["children"])
+  for (json& category : tools["children"])
     category.erase("children");
-  EXPECT_EQ(browseJson("tree tools --depth 1"), expected);
-  expected.erase("children");
-  EXPECT_EQ(browseJson("tree tools --depth 0"), expected);
+  EXPECT_EQ(browseJson("tree tools --depth 1"), tools);
+  tools.erase("children");
+  EXPECT_EQ(browseJson("tree tools --depth 0"), tools);
 }
 
 TEST_F(QvBrowseJson, ShowsAnItem) {
-  for (auto const& [item, facts] :
-       Cases{{"tools \"\"",
-              {"Tools", "Tools Folder", "folder.tif", "folderThumbnail.tif", "Tools",
-               "container hasChildren hasContainerChildren"}},
-             {"tools Wood",
-              {"Wood", "Tool Category", "folder.tif", "folderThumbnail.tif", "Wood",
-               "container hasChildren"}},
-             {"tools Kit",
-              {"Kit", "Super Tool", "supertool.tif", "superToolThumbnail.tif", "",
-               "container hasChildren picklistable detail"}},
-             {"tools Wood/saw",
-              {"saw", "Tool", "tool.tif", "toolThumbnail.tif",
-               "Cuts wood.<br>Mind your<br>fingers.", "picklistable detail"}},
-             {"views \"\"",
-              {"Views", "Views Folder", "folder.tif", "folderThumbnail.tif", "",
-               "container hasChildren"}},
-             {"views plan",
-              {"Site plan", "View", "view.tif", "viewThumbnail.tif", "From above.",
-               "picklistable"}}}) {
-    json const shown = browseJson("show " + item);
-    EXPECT_EQ((Strings{shown["scheme"], shown["path"]}), words(item));
-    json const& attributes = shown["attributes"];
-    std::string flags;
-    for (std::string const flag :
-         {"container", "hasChildren", "hasContainerChildren", "picklistable", "detail"})
-      if (json const value = shown.at(flag); value != false && value != nullptr)
-        flags += (flags.empty() ? "" : " ") + flag;
-    EXPECT_EQ((Strings{attributes["NAME"], attributes["BROWSABLE_TYPE"], shown["icon"]["file"],
-                       shown["thumbnail"]["file"], shown["tooltip"], flags}),
-              facts);
-    EXPECT_EQ(attributes["ROOT_NAME"], "Plugin Registry");
-    EXPECT_EQ(shown["icon"]["width"], 32);
-    EXPECT_EQ(shown["thumbnail"]["height"], 128);
-  }
+  json shown = browseJson("show tools Wood/saw");
+  EXPECT_EQ(shown["detail"]["pages"][0]["fields"][0]["value"], "Hand saw");
+  shown.erase("detail");
+  EXPECT_EQ(shown, R"({
+    "scheme": "tools", "path": "Wood/saw",
+    "attributes": {"NAME": "saw", "BROWSABLE_TYPE": "Tool", "ROOT_NAME": "Plugin Registry",
+                   "OWNER": "Not available", "LMTIME": "Not available",
+                   "CREATION_TIME": "Not available", "BROWSABLE_ROLE": ""},
+    "container": false, "hasChildren": false, "hasContainerChildren": false, "picklistable": true,
+    "icon": {"file": "tool.tif", "width": 32, "height": 32},
+    "thumbnail": {"file": "toolThumbnail.tif", "width": 128, "height": 128},
+    "tooltip": "Cuts wood.<br>Mind your<br>fingers."})"_json);
+
+  json const category = browseJson("show tools Wood");
+  EXPECT_EQ(category["container"], true);
+  EXPECT_EQ(category["hasChildren"], true);
+  EXPECT_EQ(category["hasContainerChildren"], false);
+  EXPECT_EQ(category["picklistable"], false);
+  EXPECT_EQ(category["detail"], nullptr);
+  EXPECT_EQ(browseJson("show tools \"\"")["hasContainerChildren"], true);
 }
 
 TEST_F(QvBrowseJson, DescribesTheColumnsOfTheSchemes) {
-  auto const expected = [](char const* scheme, char const* title) {
-    json columns = R"([
-      {"title": "Type", "attribute": "BROWSABLE_TYPE", "dataType": "icon", "minimumWidth": 32,
-       "maximumWidth": 32, "currentWidth": 32, "attributes": [1, 3, 5, 6, 9], "shown": true,
-       "sortKey": false, "auxFlag": false, "auxText": ""},
-      {"attribute": "NAME", "dataType": "string", "minimumWidth": 40, "maximumWidth": 2000,
-       "currentWidth": 365, "attributes": [0, 2, 5, 7, 8], "shown": true, "sortKey": true,
-       "auxFlag": true, "auxText": "none"}])"_json;
-    columns[1]["title"] = title;
-    return json{{"scheme", scheme}, {"observable", true}, {"columns", columns}};
-  };
-  EXPECT_EQ(browseJson("schemes"),
-            json::array({expected("tools", "Tool"), expected("views", "View")}));
+  json const schemes = browseJson("schemes");
+  EXPECT_EQ(all(schemes, "scheme"), (Strings{"tools", "views"}));
+  EXPECT_EQ(schemes[0]["observable"], true);
+  EXPECT_EQ(all(schemes[0]["columns"], "dataType"), (Strings{"icon", "string"}));
+  EXPECT_EQ(all<bool>(schemes[0]["columns"], "sortKey"), (std::vector{false, true}));
+  EXPECT_EQ(all<bool>(schemes[0]["columns"], "auxFlag"), (std::vector{false, true}));
+  EXPECT_EQ(schemes[0]["columns"][1], R"({
+    "title": "Tool", "attribute": "NAME", "dataType": "string", "minimumWidth": 40,
+    "maximumWidth": 2000, "currentWidth": 365, "attributes": [0, 2, 5, 7, 8], "shown": true,
+    "sortKey": true, "auxFlag": true, "auxText": "none"})"_json);
 }
 
 TEST_F(QvBrowseJson, TellsOfTheStartAndThePackages) {
-  Strings const dependencies =
-      words("appUi ui datamgt gfx framework internalAPI pluginAPI resmgt base");
-  std::string const package = "pluginBrowserQvmodule";
-  json expected = {
-      {{"operation", "InPackageInit::registerPackage"}, {"key", package}, {"detail", ""}}};
-  for (std::string const& dependency : dependencies)
-    expected.push_back({{"operation", "InPackageInit::addDependency"},
-                        {"key", package},
-                        {"detail", "Qv::InInit<QvInit::" + dependency + ">"}});
   json const entries = browseJson("startup");
-  ASSERT_GT(entries.size(), 10U);
-  EXPECT_EQ(json(entries.begin(), entries.begin() + 10), expected);
+  EXPECT_EQ(entries.front()["operation"], "InPackageInit::registerPackage");
   EXPECT_EQ(entries.back(), R"({"operation": "ActRegistry::registerAction",
                                 "key": "Open in Window", "detail": "0"})"_json);
 
   json const packages = browseJson("packages");
-  EXPECT_THAT(all(packages.at("packages"), "package"),
-              testing::IsSupersetOf(dependencies.begin(), dependencies.end()));
-  EXPECT_EQ(packages["packages"].back(),
-            (json{{"package", package}, {"dependencies", dependencies}}));
+  EXPECT_EQ(packages["packages"].back(), R"({
+    "package": "pluginBrowserQvmodule",
+    "dependencies": ["appUi", "ui", "datamgt", "gfx", "framework", "internalAPI", "pluginAPI",
+                     "resmgt", "base"]})"_json);
+  EXPECT_EQ(packages["packages"].size(), 10U);
   EXPECT_EQ(packages.at("buildInfos"), R"([{
     "product": "Halvard Ostrel Library", "library": "libQvpluginBrowserQvmodule",
     "release": "2013", "version": "8.0", "stage": "", "major": 8, "minor": 0, "stageCode": 42,
@@ -367,16 +288,12 @@ TEST_F(QvBrowseJson, TellsOfTheStartAndThePackages) {
 }
 
 TEST_F(QvBrowseJson, TellsWhichActionsAreValidAndWhatTheyOpen) {
-  for (auto const& [item, valid] :
-       {std::pair{"views plan", true}, {"tools Wood/saw", false}, {"tools", false}}) {
-    json expected = json::array();
-    for (char const* const name : {"Open", "Open in Window"})
-      expected.push_back({{"name", name},
-                          {"display", name},
-                          {"valid", valid},
-                          {"dynamicState", 0},
-                          {"options", json::array()}});
-    EXPECT_EQ(browseJson(std::string("actions ") + item), expected) << item;
+  for (auto const& [item, valid] : {std::pair{"views plan", true}, {"tools Wood/saw", false}}) {
+    json expected = R"({"name": "Open", "display": "Open", "dynamicState": 0, "options": []})"_json;
+    expected["valid"] = valid;
+    json const actions = browseJson(std::string("actions ") + item);
+    EXPECT_EQ(actions.at(0), expected) << item;
+    EXPECT_EQ(all(actions, "name"), (Strings{"Open", "Open in Window"}));
   }
   EXPECT_EQ(browseJson("run-action Open views plan"),
             R"([{"view": "plan", "newWindow": false, "flag": true}])"_json);
@@ -399,14 +316,9 @@ TEST_F(QvBrowseJson, TellsWhatADragCarries) {
   ProgramRun const drags = browse("--json drag tools Wood/saw Wood Kit \"\"");
   EXPECT_EQ(drags.status, 1);
   EXPECT_EQ(drags.err, "qvbrowse: not to be dragged out of the scheme \"tools\": \"Wood\", \"\"\n");
-  Strings arrivals;
-  for (json const& drag : json::parse(drags.out))
-    arrivals.push_back(drag.at("path").get<std::string>() + ": " +
-                       (drag.at("accepted") == true
-                            ? drag.at("items").at(0).at("arrives").get<std::string>()
-                            : "refused"));
-  EXPECT_THAT(arrivals, ElementsAre("Wood/saw: tool \"saw\"", "Wood: refused", "Kit: tool \"Kit\"",
-                                    ": refused"));
+  json const carried = json::parse(drags.out);
+  EXPECT_EQ(all<bool>(carried, "accepted"), (std::vector{true, false, true, false}));
+  EXPECT_EQ(carried[0]["items"][0]["arrives"], "tool \"saw\"");
 }
 
 TEST_F(QvBrowseJson, ShowsItemsOnOneDetailPage) {
@@ -417,23 +329,17 @@ TEST_F(QvBrowseJson, ShowsItemsOnOneDetailPage) {
   EXPECT_THAT(all(shown, "path"), ElementsAre("Wood/saw", "Wood/lathe", "Wood"));
   EXPECT_THAT(all(fields(0), "value"),
               ElementsAre("Hand saw", "Cuts wood.", "Workshop, 2.1", "Active"));
-  EXPECT_THAT(all(fields(1), "value"), ElementsAre("", "", "", "Inactive"));
-  EXPECT_THAT(all(fields(2), "value"), ElementsAre("", "", "", ""));
-  EXPECT_EQ(shown[1]["understood"], true);
-  EXPECT_EQ(shown[2]["understood"], false);
+  EXPECT_EQ(fields(1)[3]["value"], "Inactive");
+  EXPECT_EQ(all<bool>(shown, "understood"), (std::vector{true, true, false}));
   EXPECT_EQ(fields(0)[1], R"({"title": "Description", "value": "Cuts wood.", "editable": false,
                               "background": "#404040"})"_json);
   EXPECT_EQ(shown[2]["iconPane"]["children"][0]["image"]["file"], "folderThumbnail.tif");
   EXPECT_FALSE(shown[0].contains("widgets"));
 
   json const widgets = browseJson("detail --dump tools Wood/saw").at(0).at("widgets");
-  Strings texts;
-  json const flat = widgets.flatten();
-  for (auto const& [pointer, value] : flat.items())
-    if (pointer.ends_with("/text"))
-      texts.push_back(value);
-  EXPECT_THAT(texts, ElementsAre("Full name", "Hand saw", "Description", "Cuts wood.", "Origin",
-                                 "Workshop, 2.1", "State", "Active"));
+  EXPECT_THAT(all(widgets.at("/0/children/0/children"_json_pointer), "text"),
+              ElementsAre("Full name", "Hand saw", "Description", "Cuts wood.", "Origin",
+                          "Workshop, 2.1", "State", "Active"));
   EXPECT_EQ(widgets.at(1).at("class"), "Qv::UiSplitPane");
 }
 
@@ -488,20 +394,22 @@ TEST_F(QvBrowseText, EscapesControlCharacters) {
 }
 
 TEST_F(QvBrowseText, IsColouredOnATerminalOnly) {
-  constexpr char Allowed[] = "env -u NO_COLOR";
+  auto const runOnTerminal = [&](std::string const& environment, std::string const& arguments) {
+    return result(
+        runInShell("script -qec '" + environment + " " + commandLine(arguments) + "' /dev/null"));
+  };
   for (std::string arguments :
        {"tree tools", "ls tools", "show tools Wood/saw", "schemes", "detail tools Wood/saw"}) {
     SCOPED_TRACE(arguments);
     arguments.insert(0, "--tools catalogue.json ");
-    std::string const piped = result(run(arguments, Allowed));
+    std::string const piped = result(run(arguments));
     EXPECT_THAT(piped, Not(HasSubstr("\x1b")));
-    std::string const coloured = result(run(arguments, Allowed, Stdout::Terminal));
+    std::string const coloured = runOnTerminal("env -u NO_COLOR", arguments);
     EXPECT_THAT(coloured, HasSubstr("\x1b["));
     EXPECT_EQ(withoutStyles(coloured), piped);
-    for (auto const& [argument, environment] :
-         {std::pair{"", "env NO_COLOR=1"}, {" --json", Allowed}})
-      EXPECT_THAT(result(run(arguments + argument, environment, Stdout::Terminal)),
-                  Not(HasSubstr("\x1b")));
+    for (std::string const& plain : {runOnTerminal("NO_COLOR=1", arguments),
+                                     runOnTerminal("env -u NO_COLOR", arguments + " --json")})
+      EXPECT_THAT(plain, Not(HasSubstr("\x1b")));
   }
 }
 

@@ -1,8 +1,8 @@
 #include "toolCatalogue.h"
-#include "hostError.h"
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
 #include "hostViewFactory.h"
+#include "refusal.h"
 #include "temporaryDirectory.h"
 
 #include <gmock/gmock.h>
@@ -14,15 +14,9 @@ namespace {
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 
 std::string refusal(std::filesystem::path const& file) {
-  try {
-    readToolCatalogue(file);
-  } catch (HostError const& error) {
-    return error.what();
-  }
-  return "it was accepted";
+  return refusalOf([&] { readToolCatalogue(file); });
 }
 
 struct Refused {
@@ -53,17 +47,14 @@ Refused const Faults[] = {
 
     {"CategoryOfWrongType", R"({"categories": ["a", 1]})", "/categories/1", "found number"},
     {"CategoryWithSlash", R"({"categories": ["a/b"]})", "/categories/0", "\"a/b\" holds"},
-    {"CategoryEmpty", R"({"categories": [""]})", "/categories/0", "empty"},
     {"CategoryNotListed",
      R"({"categories": ["a"], "tools": [{"name": "t", "category": "a"},
                                         {"name": "t", "category": "b"}]})",
      "/tools/1/category", "\"b\" is not listed"},
 
     {"ToolNoObject", R"({"tools": [null]})", "/tools/0", "found null"},
-    {"ToolWithoutName", R"({"tools": [{"category": "c"}]})", "/tools/0/name", "missing"},
     {"ToolWithoutCategory", R"({"tools": [{"name": "t"}]})", "/tools/0/category", "missing"},
     {"ToolNameEmpty", R"({"tools": [{"name": "", "category": "c"}]})", "/tools/0/name", "empty"},
-    {"ToolWithSlash", R"({"tools": [{"name": "/", "category": "c"}]})", "/tools/0/name", "holds"},
     {"ToolCategoryEmpty", R"({"tools": [{"name": "t", "category": ""}]})", "/tools/0/category",
      "empty"},
     {"ToolWithUnknownKey", R"({"tools": [{"name": "t", "category": "c", "a/b~": 1}]})",
@@ -79,8 +70,6 @@ Refused const Faults[] = {
     {"TooltipOfWrongType", R"({"tools": [{"name": "t", "category": "c", "tooltip": true}]})",
      "/tools/0/tooltip", "found boolean"},
 
-    {"ViewWithoutName", R"({"views": [{"name": "v"}, {"label": "w"}]})", "/views/1/name",
-     "missing"},
     {"ViewWithSlash", R"({"views": [{"name": "v/w"}]})", "/views/0/name", "holds"},
     {"ViewRepeated", R"({"views": [{"name": "v"}, {"name": "w"}, {"name": "v"}]})", "/views/2/name",
      "\"v\" before"},
@@ -88,20 +77,20 @@ Refused const Faults[] = {
      "found null"},
 };
 
-class ToolCatalogueFaults : public TemporaryDirectory,
-                            public testing::WithParamInterface<Refused> {};
+class ToolCatalogueFaults : public testing::TestWithParam<Refused>, protected TemporaryDirectory {};
 
 TEST_P(ToolCatalogueFaults, AreNamedWithFileAndPlace) {
   std::filesystem::path const file = write("catalogue.json", GetParam().text);
-  EXPECT_THAT(refusal(file), AllOf(HasSubstr("\"" + file.string() + "\""),
-                                   HasSubstr(std::string(" at ") + GetParam().place + ": "),
-                                   HasSubstr(GetParam().reason), Not(HasSubstr("exception"))));
+  EXPECT_THAT(refusal(file),
+              AllOf(HasSubstr("\"" + file.string() + "\""),
+                    HasSubstr(std::string(" at ") + GetParam().place + ": "),
+                    HasSubstr(GetParam().reason), testing::Not(HasSubstr("exception"))));
 }
 
 INSTANTIATE_TEST_SUITE_P(, ToolCatalogueFaults, testing::ValuesIn(Faults),
                          [](auto const& test) { return std::string(test.param.name); });
 
-class ToolCatalogue : public TemporaryDirectory {
+class ToolCatalogue : public testing::Test, protected TemporaryDirectory {
 protected:
   ~ToolCatalogue() override {
     HostToolRegistry::getInstance().clear();
@@ -111,9 +100,20 @@ protected:
 };
 
 TEST_F(ToolCatalogue, ThatCannotBeReadIsRefused) {
-  std::filesystem::path const missing = directory_ / "missing.json";
-  EXPECT_THAT(refusal(missing), AllOf(HasSubstr(missing.string()), HasSubstr("No such file")));
+  EXPECT_THAT(refusal(directory_ / "missing.json"),
+              AllOf(HasSubstr("missing.json\""), HasSubstr("No such file")));
   EXPECT_THAT(refusal(directory_), AllOf(HasSubstr(directory_.string()), HasSubstr("directory")));
+}
+
+/// The facts of each tool, in words.
+std::vector<std::string> toolsOf(ToolSource const& source) {
+  std::vector<std::string> result;
+  for (auto const& [facts, tooltip] : source.tools)
+    result.push_back(facts.name + " in " + facts.category + (facts.active ? ", active" : "") +
+                     (facts.internal ? ", internal" : "") + (facts.superTool ? ", super" : "") +
+                     ": " + facts.infoTexts[0] + "/" + facts.infoTexts[1] + "/" +
+                     facts.infoTexts[2] + "; " + tooltip);
+  return result;
 }
 
 TEST_F(ToolCatalogue, HasDefaultsForAllButNames) {
@@ -123,15 +123,8 @@ TEST_F(ToolCatalogue, HasDefaultsForAllButNames) {
                                             {"name": "b", "category": "y"}],
                                   "views": [{"name": "v"}]})"));
   EXPECT_THAT(source.categories, ElementsAre("y", "x"));
-  ASSERT_EQ(source.tools.size(), 3U);
-  ToolSource::Tool const& tool = source.tools[1];
-  EXPECT_EQ(tool.facts.name, "a");
-  EXPECT_EQ(tool.facts.category, "x");
-  EXPECT_TRUE(tool.facts.active);
-  EXPECT_FALSE(tool.facts.internal);
-  EXPECT_FALSE(tool.facts.superTool);
-  EXPECT_THAT(tool.facts.infoTexts, ElementsAre("", "", ""));
-  EXPECT_EQ(tool.tooltip, "");
+  EXPECT_THAT(toolsOf(source),
+              ElementsAre("b in y, active: //; ", "a in x, active: //; ", "b in y, active: //; "));
   ASSERT_EQ(source.views.size(), 1U);
   EXPECT_EQ(source.views[0].label, "v");
   EXPECT_EQ(source.views[0].tooltip, "");
@@ -145,14 +138,8 @@ TEST_F(ToolCatalogue, IsTakenAsItSays) {
               {"name": "u", "category": "z", "internal": true}],
     "views": [{"name": "v", "label": "", "tooltip": "view tip"}]})"));
   EXPECT_THAT(source.categories, ElementsAre("z", "a", "z"));
-  ASSERT_EQ(source.tools.size(), 2U);
-  HostToolFacts const& facts = source.tools[0].facts;
-  EXPECT_FALSE(facts.active);
-  EXPECT_FALSE(facts.internal);
-  EXPECT_TRUE(facts.superTool);
-  EXPECT_TRUE(source.tools[1].facts.internal);
-  EXPECT_FALSE(source.tools[1].facts.superTool);
-  EXPECT_THAT(facts.infoTexts, ElementsAre("one", "two", "3"));
+  EXPECT_THAT(toolsOf(source),
+              ElementsAre("t in a, super: one/two/3; tool tip", "u in z, active, internal: //; "));
   ASSERT_EQ(source.views.size(), 1U);
   EXPECT_EQ(source.views[0].label, "");
 
@@ -160,9 +147,6 @@ TEST_F(ToolCatalogue, IsTakenAsItSays) {
   HostToolRegistry& registry = HostToolRegistry::getInstance();
   EXPECT_EQ(registry.getCategories().getCardinality(), 3);
   EXPECT_TRUE(registry.isSuperTool("t"));
-  RCShdPtr<PiTool const> const tool = registry.getTool("t");
-  ASSERT_TRUE(tool);
-  EXPECT_EQ(tool->getInfoText2(), "two");
   ASSERT_EQ(HostViewFactory::getInstance().getNames().size(), 1U);
   EXPECT_EQ(HostViewFactory::getInstance().getNames()[0], "v");
   EXPECT_EQ(HostTtServer::getInstance().lookupTooltip("t"), "tool tip");
@@ -170,10 +154,7 @@ TEST_F(ToolCatalogue, IsTakenAsItSays) {
 }
 
 TEST_F(ToolCatalogue, SampleIsWithoutFault) {
-  ToolSource const source =
-      readToolCatalogue(std::filesystem::path(RESOURCE_DIR) / "sampleCatalogue.json");
-  EXPECT_FALSE(source.tools.empty());
-  EXPECT_FALSE(source.views.empty());
+  EXPECT_NO_THROW(readToolCatalogue(std::filesystem::path(RESOURCE_DIR) / "sampleCatalogue.json"));
 }
 
 } // namespace

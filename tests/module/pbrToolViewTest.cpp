@@ -1,13 +1,11 @@
 #include "moduleTest.h"
 
-#include "hostError.h"
 #include "hostImage.h"
 #include "pbrToolView.h"
+#include "refusal.h"
 #include "snSelection.h"
+#include "temporaryDirectory.h"
 #include "uiColorRegistry.h"
-
-#include <cstdlib>
-#include <fstream>
 
 namespace Qv {
 
@@ -208,27 +206,21 @@ TEST_F(ToolView, losesNothingWhenMemoryRunsOut) {
             50);
 }
 
-TEST_F(ToolView, refusesAFaultyResourceFileWithTheReason) {
-  std::string directory = testing::TempDir() + "XXXXXX";
-  ASSERT_TRUE(mkdtemp(directory.data()));
-  HostResources::getInstance().setDirectory(directory);
+class ToolViewPage : public ToolView, protected TemporaryDirectory {};
+
+TEST_F(ToolViewPage, isRefusedWithTheReason) {
+  HostResources::getInstance().setDirectory(directory_);
+  auto const refusal = [] { return refusalOf([] { PbrToolView().buildUi(noSelection); }); };
+  EXPECT_THAT(refusal(), testing::HasSubstr("in \"" + directory_.string() + "\""));
   for (auto const& [text, reason] : std::map<std::string, std::string>{
-           {"", "in \"" + directory + "\""},
            {"<resources>", "it is no XML"},
            {"<resources/>", "describes no page \"InfoCt\""},
            {"<resources><label name='InfoCt'/></resources>", "describes \"InfoCt\" as a label"},
            {"<resources><page name='InfoCt'/></resources>", "no label \"FieldTitle0\""}}) {
-    if (!text.empty())
-      std::ofstream(directory + "/bvTool.xml") << text;
-    try {
-      PbrToolView().buildUi(noSelection);
-      ADD_FAILURE() << reason;
-    } catch (HostError const& error) {
-      EXPECT_THAT(error.what(), testing::HasSubstr("the resource file \"bvTool.xml\""));
-      EXPECT_THAT(error.what(), testing::HasSubstr(reason));
-    }
+    write("bvTool.xml", text);
+    EXPECT_THAT(refusal(), testing::HasSubstr("the resource file \"bvTool.xml\""));
+    EXPECT_THAT(refusal(), testing::HasSubstr(reason));
   }
-  std::filesystem::remove_all(directory);
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
@@ -11,22 +9,25 @@
 
 namespace Qv {
 
-/// A directory of its own for each test, removed with all that is in it.
-class TemporaryDirectory : public testing::Test {
+/// A directory of its own for each test that derives from it, removed with all that is in it.
+class TemporaryDirectory {
 protected:
   TemporaryDirectory() {
-    std::string pattern = testing::TempDir() + "qvbrowse-XXXXXX";
+    std::string pattern = std::filesystem::temp_directory_path() / "qv-XXXXXX";
     if (!mkdtemp(pattern.data()))
-      throw std::filesystem::filesystem_error("mkdtemp", pattern,
-                                              std::error_code(errno, std::generic_category()));
+      throw std::system_error(errno, std::generic_category(), "mkdtemp");
     directory_ = pattern;
   }
-  ~TemporaryDirectory() override { std::filesystem::remove_all(directory_); }
+  ~TemporaryDirectory() { std::filesystem::remove_all(directory_); }
 
   std::filesystem::path write(std::string const& name, std::string const& text) const {
     std::filesystem::path const file = directory_ / name;
     std::ofstream(file, std::ios::binary) << text;
     return file;
+  }
+  std::string read(std::string const& name) const {
+    std::ifstream file(directory_ / name, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
   }
 
   std::filesystem::path directory_;
