@@ -68,19 +68,19 @@ Shape polygon(std::vector<Point> corners) {
   };
 }
 
-Shape unite(Shape a, Shape b) {
+Shape unite(Shape const& a, Shape const& b) {
   return [=](Point p) { return std::min(a(p), b(p)); };
 }
 
-Shape cut(Shape a, Shape b) {
+Shape cut(Shape const& a, Shape const& b) {
   return [=](Point p) { return std::max(a(p), -b(p)); };
 }
 
-Shape grow(Shape shape, double width) {
+Shape grow(Shape const& shape, double width) {
   return [=](Point p) { return shape(p) - width; };
 }
 
-Shape shift(Shape shape, Point by) {
+Shape shift(Shape const& shape, Point by) {
   return [=](Point p) { return shape({p.x - by.x, p.y - by.y}); };
 }
 
@@ -246,8 +246,10 @@ std::vector<std::uint8_t> render(Drawing const& drawing, int side) {
     for (int x = 0; x < side; ++x) {
       Color sum = {};
       for (int i = 0; i < Samples * Samples; ++i) {
-        double const subX = (i % Samples + 0.5) / Samples;
-        double const subY = (double(i / Samples) + 0.5) / Samples;
+        int const column = i % Samples;
+        int const row = i / Samples;
+        double const subX = (column + 0.5) / Samples;
+        double const subY = (row + 0.5) / Samples;
         Color const sample = mix(drawing, {(x + subX) * Field / side, (y + subY) * Field / side});
         for (int channel = 0; channel < 4; ++channel)
           sum[channel] += sample[channel];
