@@ -25,7 +25,7 @@ public:
   ~RCPvtEngPtr();
 };
 
-// An instance exports its destructor only when that is defined outside the class.
+// An instance exports a defaulted destructor only when it is defaulted outside the class.
 template <class E> inline RCPvtEngPtr<E>::~RCPvtEngPtr() = default;
 
 /// An iterator engine: a position in a sequence of `T`.

@@ -56,7 +56,7 @@ private:
   mutable Counter count_{};
 };
 
-// An instance exports its destructor only when that is defined outside the class.
+// An instance exports a defaulted destructor only when it is defaulted outside the class.
 template <class Counter> inline RCBase<Counter>::~RCBase() = default;
 
 extern template class QV_EXPORT RCBase<LkCounter<int>>;

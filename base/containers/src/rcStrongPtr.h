@@ -102,7 +102,7 @@ public:
   ~RCStrongPtr();
 };
 
-// An instance exports its destructor only when that is defined outside the class.
+// An instance exports a defaulted destructor only when it is defaulted outside the class.
 template <class T> inline RCStrongPtr<T>::~RCStrongPtr() = default;
 
 } // namespace Qv

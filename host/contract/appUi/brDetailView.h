@@ -18,7 +18,7 @@ public:
   virtual RCShdPtr<VpPlayer> const getMiniPlayer() const;
 
   /// Loads the resource table from `resourceFile`. @param name names the view.
-  /// @throws HostError when the file is missing or has a fault.
+  /// @throws ExBase when the file is missing or has a fault.
   BrDetailView(LiString const& name, OsFilePath const& resourceFile);
 
   /// Adds a page under a title.

@@ -20,7 +20,7 @@ private:
   LiString name_;
 };
 
-/// Writes the name in quotes.
+/// Writes "view" and the name in quotes.
 QV_EXPORT std::ostream& operator<<(std::ostream& os, UiViewIdentifier const& view);
 
 } // namespace Qv

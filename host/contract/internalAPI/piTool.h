@@ -7,7 +7,7 @@
 namespace Qv {
 
 /// One registered tool. Handled as `RCShdPtr<PiTool const>`. The host has further operations
-/// between these, which the module does not call.
+/// before and between these, which the module does not call.
 class QV_EXPORT PiTool : public RCBase<LkCounter<int>> {
 protected:
   ~PiTool() override;

@@ -5,8 +5,8 @@
 
 namespace Qv {
 
-/// The host's registry of plug-in tools. The host has further operations
-/// between these, which the module does not call.
+/// The host's registry of plug-in tools. The host has further operations before and between
+/// these, which the module does not call.
 class QV_EXPORT PiToolRegistry {
 public:
   static PiToolRegistry& getInstance();

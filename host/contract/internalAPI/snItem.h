@@ -5,7 +5,7 @@
 namespace Qv {
 
 /// The optional parts of a selection item.
-class QV_EXPORT SnParts : public RCBase<int> {
+class QV_EXPORT SnParts : public RCBase<LkCounter<int>> {
 protected:
   ~SnParts() override;
 };
@@ -38,7 +38,7 @@ private:
 };
 
 /// The saved state of an item.
-class QV_EXPORT SnItem::Snapshot : public RCBase<int> {
+class QV_EXPORT SnItem::Snapshot : public RCBase<LkCounter<int>> {
 protected:
   ~Snapshot() override;
 };

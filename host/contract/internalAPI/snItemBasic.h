@@ -44,7 +44,7 @@ private:
   T value_;
 };
 
-// An instance exports its destructor only when that is defined outside the class.
+// An instance exports a defaulted destructor only when it is defaulted outside the class.
 template <class T> inline SnItemBasic<T>::~SnItemBasic() = default;
 
 } // namespace Qv

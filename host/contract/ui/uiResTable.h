@@ -25,10 +25,10 @@ public:
   };
 
   /// Reads a resource file from the resource directory.
-  /// @throws HostError when there is no such file or it has a fault.
+  /// @throws ExBase when there is no such file or it has a fault.
   explicit UiResTable(OsFilePath const& file);
 
-  /// @throws HostError when the file describes no resource of that name or one of another kind.
+  /// @throws ExBase when the file describes no resource of that name or one of another kind.
   Resource const& get(Kind kind, std::string const& name) const;
 
 private:

@@ -13,6 +13,7 @@ BrDetailView::~BrDetailView() = default;
 
 void BrDetailView::setFullScreenHandler(CbHandler<EvEvent>* /*handler*/) {}
 
+// NOLINTNEXTLINE(readability-const-return-type): the slot is declared so.
 RCShdPtr<VpPlayer> const BrDetailView::getMiniPlayer() const { return RCShdPtr<VpPlayer>(); }
 
 void BrDetailView::addDetailInfoPage(RCShdPtr<UiWidget> page, LiString const& title) {

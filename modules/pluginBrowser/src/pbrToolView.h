@@ -25,7 +25,7 @@ public:
   void setContent(RCShdPtr<BrBrowsable> const& item,
                   RCShdPtr<SnSelection> const& selection) override;
   void externalClose() override;
-  /// Builds the widgets, once.
+  /// Builds the widgets: once, or again after it failed.
   void buildUi(RCShdPtr<SnSelection> const& selection) override;
   /// Adds the fields as the page "Information". @throws ExNullPtr when the widgets have not been
   /// built.

@@ -1,7 +1,5 @@
 #include "pluginBrowserQvmoduleInit.h"
 
-#include "pbrInstances.h"
-
 #include "brDndRegistry.h"
 #include "brRegistry.h"
 #include "inBuildInfo.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pbrInstances.h"
+
 #include "inInit.h"
 
 namespace QvInit {
