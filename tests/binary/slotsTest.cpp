@@ -1,6 +1,5 @@
 #include "pbrInstances.h"
 
-#include "actTypedAction.h"
 #include "bvDetailMgr.h"
 #include "expectations.h"
 #include "hostActRegistry.h"
@@ -9,7 +8,7 @@
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
 #include "hostWorkspace.h"
-#include "inBuildInfo.h"
+#include "implementations.h"
 #include "pbrDraggedItems.h"
 #include "pbrToolBrowsable.h"
 #include "pbrToolChildrenQuerys.h"
@@ -21,7 +20,6 @@
 #include "pbrViewDndHandler.h"
 #include "pbrViewServer.h"
 #include "pluginBrowserQvmoduleInit.h"
-#include "snSelection.h"
 #include "vtables.h"
 
 #include <gtest/gtest.h>
@@ -56,12 +54,12 @@ TEST(Slots, areWhatCallersExpect) {
   std::vector<std::type_info const*> const classes =
       typesOf<InInit<QvInit::pluginBrowserQvmodule>, PbrToolServer, PbrViewServer, PbrToolBrowsable,
               PbrViewBrowsable, PbrToolChildrenQuerys, PbrViewChildrenQuery, PbrToolDndHandler,
-              PbrViewDndHandler, DraggedToolItem, DraggedViewItem, SnSelection, PbrToolView,
-              ActTypedAction<RCShdPtr<BrBrowser>, RCShdPtr<BrNode>>, HostToolRegistry,
-              HostBrRegistry, HostTtServer, HostIconRegistry, HostTool, HostActRegistry,
-              HostWorkspace, BvDetailMgr, UiLabel, BrNode, InBuildInfo, Iterator<std::string>,
-              Iterator<RCShdPtr<BrBrowsable>>, Iterator<RCShdPtr<PiTool const>>, Iterator<LiString>,
-              NamesEngine, BrBrowsablesEngine>();
+              PbrViewDndHandler, DraggedToolItem, DraggedViewItem, AnySelection, PbrToolView,
+              AnyAction, HostToolRegistry, HostBrRegistry, HostTtServer, HostIconRegistry, HostTool,
+              HostActRegistry, HostWorkspace, BvDetailMgr, UiLabel, BrNode, AnyBuildInfo,
+              Iterator<std::string>, Iterator<RCShdPtr<BrBrowsable>>,
+              Iterator<RCShdPtr<PiTool const>>, Iterator<LiString>, NamesEngine,
+              BrBrowsablesEngine>();
   EXPECT_EQ(classes.size(), expected.size());
   for (std::type_info const* const type : classes) {
     std::string const name = readable(type->name());
