@@ -61,7 +61,7 @@ void runAction(Request const& request) {
 
   std::vector<std::vector<std::string>> rows;
   for (Json const& view : opened)
-    rows.push_back({printable(view["view"]), view["newWindow"] ? "new window" : "window",
+    rows.push_back({view["view"], view["newWindow"] ? "new window" : "window",
                     view["newWindow"] ? "" : view["flag"].dump()});
   Terminal().printTable({"Opened view", "In", "Flag"}, rows);
 }

@@ -80,9 +80,9 @@ private:
     std::string const name = getAttribute(item, BrBrowsable::NAME);
     std::string const type = "[" + getAttribute(item, BrBrowsable::BROWSABLE_TYPE) + "]";
     std::string const path = item.getPath();
-    fmt::print("{}  {}{}\n", terminal_.styled(style, printable(name)),
-               terminal_.styled(fmt::emphasis::faint, printable(type)),
-               path.empty() || path.ends_with(name) ? "" : "  " + printable(path));
+    printText("{}  {}{}\n", terminal_.styled(style, printable(name)),
+              terminal_.styled(fmt::emphasis::faint, printable(type)),
+              path.empty() || ("/" + path).ends_with("/" + name) ? "" : "  " + printable(path));
   }
 
   void printChildren(BrBrowsable& item, std::string const& indent, int level) const {
@@ -93,7 +93,7 @@ private:
     auto const printPending = [&](bool last) {
       if (!pending)
         return;
-      fmt::print("{}{}", indent, last ? "└── " : "├── ");
+      printText("{}{}", indent, last ? "└── " : "├── ");
       printLine(*pending);
       printChildren(*pending, indent + (last ? "    " : "│   "), level + 1);
     };
@@ -169,28 +169,29 @@ void listChildren(Request const& request) {
     }
     return printJson(json);
   }
-  for (std::vector<std::string>& row : rows)
-    std::transform(row.begin(), row.end(), row.begin(), printable);
   Terminal().printTable(titles, rows);
 }
 
 void showTree(Request const& request) {
-  std::vector<RCShdPtr<BrBrowsable>> roots;
-  if (!request.scheme.empty())
-    roots.push_back(findItem(request.scheme, request.path));
-  else
-    for (OPtr<BrServer> const& server : HostBrRegistry::getInstance().getServers())
-      roots.push_back(server->getRootNode()->getBrowsable());
-
+  RCShdPtr<BrBrowsable> const root = findItem(request.scheme, request.path);
   TreeWalk const walk(request);
-  if (request.json) {
-    Json trees = Json::array();
-    for (RCShdPtr<BrBrowsable> const& root : roots)
+  if (request.json)
+    return printJson(walk.collect(*root));
+  walk.print(*root);
+}
+
+void showTrees(Request const& request) {
+  TreeWalk const walk(request);
+  Json trees = Json::array();
+  for (OPtr<BrServer> const& server : HostBrRegistry::getInstance().getServers()) {
+    RCShdPtr<BrBrowsable> const root = server->getRootNode()->getBrowsable();
+    if (request.json)
       trees.push_back(walk.collect(*root));
-    return printJson(request.scheme.empty() ? trees : trees.front());
+    else
+      walk.print(*root);
   }
-  for (RCShdPtr<BrBrowsable> const& root : roots)
-    walk.print(*root);
+  if (request.json)
+    printJson(trees);
 }
 
 void showItem(Request const& request) {
@@ -231,11 +232,9 @@ void showItem(Request const& request) {
       break;
     tooltip.erase(0, end + std::string_view("<br>").size());
   }
-  for (std::vector<std::string>& row : rows)
-    row[1] = printable(row[1]);
   Terminal().printTable({"Property", "Value"}, rows);
   if (detail) {
-    fmt::print("\n");
+    printText("\n");
     DetailPage::print(json["detail"]);
   }
 }
@@ -250,8 +249,8 @@ void showStartup(Request const& request) {
 
   std::vector<std::vector<std::string>> rows;
   for (Json const& entry : entries)
-    rows.push_back({std::to_string(rows.size() + 1), entry["operation"], printable(entry["key"]),
-                    printable(entry["detail"])});
+    rows.push_back(
+        {std::to_string(rows.size() + 1), entry["operation"], entry["key"], entry["detail"]});
   Terminal().printTable({"#", "Operation", "Key", "Detail"}, rows);
 }
 
@@ -290,7 +289,7 @@ void showPackages(Request const& request) {
   }
   terminal.printTable({"Package", "Depends on"}, rows);
   for (Json const& info : infos) {
-    fmt::print("\n");
+    printText("\n");
     rows.clear();
     for (auto const& [name, value] : info.items())
       rows.push_back({name, value.is_string() ? value.get<std::string>() : value.dump()});

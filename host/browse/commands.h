@@ -30,6 +30,8 @@ struct Request {
 void showSchemes(Request const& request);
 void listChildren(Request const& request);
 void showTree(Request const& request);
+/// The trees of all schemes.
+void showTrees(Request const& request);
 void showItem(Request const& request);
 void showStartup(Request const& request);
 void showPackages(Request const& request);

@@ -29,8 +29,8 @@ void showDetail(Request const& request) {
   if (request.json)
     return printJson(shown);
   for (Json const& json : shown) {
-    fmt::print("{}\"{}\"{}\n", &json == &shown.front() ? "" : "\n", printable(json["path"]),
-               json["understood"] ? "" : " (not understood by the view)");
+    printText("{}\"{}\"{}\n", &json == &shown.front() ? "" : "\n", printable(json["path"]),
+              json["understood"] ? "" : " (not understood by the view)");
     DetailPage::print(json);
     if (request.dump)
       DetailPage::printDump(json["widgets"]);

@@ -1,18 +1,19 @@
 #include "detailPage.h"
 
 #include "hostBrRegistry.h"
-#include "hostImage.h"
 #include "snSelection.h"
 #include "uiLabel.h"
 #include "uiSplitPane.h"
 #include "uiTextEditor.h"
+
+#include <cmath>
 
 namespace Qv {
 
 namespace {
 
 std::string colorText(CoRgbColorTyped<float> const& color) {
-  auto const byte = [](float component) { return int(component * 255 + 0.5F); };
+  auto const byte = [](float component) { return std::lround(component * 255); };
   return fmt::format("#{:02x}{:02x}{:02x}", byte(color.red), byte(color.green), byte(color.blue));
 }
 
@@ -67,21 +68,6 @@ std::string textOf(Json const& json, char const* key) {
 
 } // namespace
 
-Json describeImage(RCShdPtr<WsManagedImage> const& image) {
-  RCShdPtr<HostImage> const hostImage = image.dynamicCast<HostImage>();
-  if (!hostImage)
-    return nullptr;
-  return {{"file", hostImage->getName()},
-          {"width", hostImage->getWidth()},
-          {"height", hostImage->getHeight()}};
-}
-
-std::string imageText(Json const& image) {
-  return image.is_null() ? "none"
-                         : fmt::format("{} ({} x {})", textOf(image, "file"),
-                                       textOf(image, "width"), textOf(image, "height"));
-}
-
 DetailPage::DetailPage(OPtr<BrDetailView> view) : view_(std::move(view)) {
   view_->buildUi(RCShdPtr<SnSelection>());
   view_->setDetailInfo();
@@ -130,8 +116,8 @@ void DetailPage::print(Json const& page) {
   std::vector<std::vector<std::string>> rows;
   for (Json const& part : page["pages"])
     for (Json const& field : part["fields"])
-      rows.push_back({part["title"], printable(field["title"]), yesOrNo(field["editable"]),
-                      field["background"], printable(field["value"])});
+      rows.push_back({part["title"], field["title"], yesOrNo(field["editable"]),
+                      field["background"], field["value"]});
   Terminal().printTable({"Page", "Title", "Editable", "Background", "Value"}, rows);
 
   Json const& icon = page["iconPane"];
@@ -139,8 +125,8 @@ void DetailPage::print(Json const& page) {
     return;
   for (Json const& pane : icon["children"])
     if (pane["name"] == icon["open"])
-      fmt::print("\nIcon pane \"{}\": \"{}\" is open and shows {}\n", textOf(icon, "name"),
-                 textOf(pane, "name"), imageText(pane.value("image", Json(nullptr))));
+      printText("\nIcon pane \"{}\": \"{}\" is open and shows {}\n", textOf(icon, "name"),
+                textOf(pane, "name"), imageText(pane.value("image", Json(nullptr))));
 }
 
 void DetailPage::printDump(Json const& widgets) {
@@ -152,7 +138,7 @@ void DetailPage::printDump(Json const& widgets) {
       if (key != "class" && key != "name" && key != "children")
         line +=
             fmt::format(" {}={}", key, value.dump(-1, ' ', false, Json::error_handler_t::replace));
-    fmt::print("{}\n", line);
+    printText("{}\n", line);
     for (Json const& child : widget["children"])
       self(self, child, indent + "  ");
   };

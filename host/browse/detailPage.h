@@ -7,10 +7,6 @@
 
 namespace Qv {
 
-/// What qvbrowse tells of an image; null when there is none.
-Json describeImage(RCShdPtr<WsManagedImage> const& image);
-std::string imageText(Json const& image);
-
 /// One clone of the view that shows items in detail, built and ready to show any item.
 class DetailPage {
 public:

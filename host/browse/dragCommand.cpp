@@ -51,23 +51,23 @@ Json drag(RCShdPtr<BrBrowsable> const& item) {
 }
 
 void print(Json const& json) {
-  fmt::print("\"{}\"\n", printable(json["path"]));
+  printText("\"{}\"\n", printable(json["path"]));
   if (json["handler"].is_null()) {
-    fmt::print("  handler: none\n");
+    printText("  handler: none\n");
     return;
   }
-  fmt::print("  handler: {}\n  accepted: {}, cut: {}, copy: {}, drop: {}\n",
-             json["handler"].get<std::string>(), yesOrNo(json["accepted"]), yesOrNo(json["cut"]),
-             yesOrNo(json["copy"]), yesOrNo(json["drop"]));
+  printText("  handler: {}\n  accepted: {}, cut: {}, copy: {}, drop: {}\n",
+            json["handler"].get<std::string>(), yesOrNo(json["accepted"]), yesOrNo(json["cut"]),
+            yesOrNo(json["copy"]), yesOrNo(json["drop"]));
   if (!json["accepted"])
     return;
   if (json["items"].empty())
-    fmt::print("  arrives: nothing\n");
+    printText("  arrives: nothing\n");
   for (Json const& item : json["items"]) {
-    fmt::print("  arrives: {}\n", printable(item["arrives"]));
+    printText("  arrives: {}\n", printable(item["arrives"]));
     std::istringstream dump(item["dump"].get<std::string>());
     for (std::string line; std::getline(dump, line);)
-      fmt::print("  {}\n", printable(line));
+      printText("  {}\n", printable(line));
   }
 }
 

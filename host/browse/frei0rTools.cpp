@@ -1,10 +1,9 @@
 #include "frei0rTools.h"
 
 #include "hostError.h"
+#include "hostFiles.h"
 
 #include <algorithm>
-#include <boost/dll/shared_library.hpp>
-#include <dlfcn.h>
 #include <fmt/format.h>
 #include <span>
 
@@ -31,7 +30,8 @@ std::string saidBy(char const* text) {
 class Plugin {
 public:
   explicit Plugin(fs::path const& file)
-      : library_(load(file)), init_(entry<int()>("f0r_init")), deinit_(entry<void()>("f0r_deinit")),
+      : library_(loadLibrary(file)), init_(entry<int()>("f0r_init")),
+        deinit_(entry<void()>("f0r_deinit")),
         getPluginInfo_(entry<void(f0r_plugin_info_t*)>("f0r_get_plugin_info")),
         getParamInfo_(entry<void(f0r_param_info_t*, int)>("f0r_get_param_info")) {
     init_();
@@ -53,18 +53,6 @@ public:
   }
 
 private:
-  static boost::dll::shared_library load(fs::path const& file) {
-    std::error_code error;
-    boost::dll::shared_library library(fs::absolute(file), boost::dll::load_mode::rtld_now, error);
-    if (!error)
-      return library;
-    char const* const text = dlerror();
-    std::string reason = text ? text : "the loader gives no reason";
-    std::string const prefix = fs::absolute(file).string() + ": ";
-    if (reason.starts_with(prefix))
-      reason.erase(0, prefix.size());
-    throw HostError(reason);
-  }
   template <class Function> Function& entry(char const* name) const {
     if (!library_.has(name))
       throw HostError(fmt::format("it has no function {}", name));
@@ -151,6 +139,7 @@ std::vector<fs::path> findPlugins(fs::path const& directory) {
 
 ToolSource readFrei0rTools(fs::path const& directory) {
   ToolSource source;
+  source.origin = directory;
   for (fs::path const& file : findPlugins(directory)) {
     try {
       source.tools.push_back(readTool(file));
@@ -163,7 +152,7 @@ ToolSource readFrei0rTools(fs::path const& directory) {
     if (std::any_of(source.tools.begin(), source.tools.end(), [&](ToolSource::Tool const& tool) {
           return tool.facts.category == category.name;
         }))
-      source.categories.push_back(category.name);
+      source.categories.emplace_back(category.name);
   return source;
 }
 

@@ -7,7 +7,7 @@
 namespace Qv {
 
 /// Where distributions install frei0r plug-ins.
-inline constexpr char frei0rDirectory[] = "/usr/lib/frei0r-1";
+inline constexpr char const* frei0rDirectory = "/usr/lib/frei0r-1";
 
 /// Reads the frei0r plug-ins of a directory, its *.so files, in order of their names. A plug-in is
 /// a tool: it is named after its file, its category is its type, its texts are its own name, its

@@ -10,7 +10,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstring>
-#include <fmt/format.h>
+#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -30,7 +30,7 @@ struct CommandLine {
   fs::path module = installation() / "lib" / "libQVpluginBrowser.qvmodule";
   std::vector<std::string> tools;
   Request request;
-  void (*command)(Request const&) = &showTree;
+  void (*command)(Request const&) = &showTrees;
   /// Whether the command goes on with further paths.
   bool takesPaths = false;
 };
@@ -74,13 +74,15 @@ void declare(CLI::App& app, CommandLine& line) {
         "--filter", [&](std::string const& filter) { request.itemsOnly = filter == "items"; },
         "Which children: all, or the items at the scheme's item depth")
       ->check(CLI::IsMember({"all", "items"}))
-      ->type_name("");
+      ->option_text("all|items");
 
   CLI::App* const tree =
       addCommand("tree", "Show the tree below an item, or of all schemes", &showTree);
   addItem(tree, false, false);
+  tree->callback([&line, tree] { line.command = tree->count("SCHEME") ? &showTree : &showTrees; });
   tree->add_option("--depth", request.depth, "How many levels below the item")
-      ->check(CLI::Range(0, 1000));
+      ->check(CLI::Range(0, 1000))
+      ->option_text("N");
 
   addItem(addCommand("show", "Show one item", &showItem), true);
   addCommand("startup", "Show what the module did to the host while it started", &showStartup);
@@ -94,7 +96,11 @@ void declare(CLI::App& app, CommandLine& line) {
     subcommand->add_option("SCHEME", request.scheme, "The name of the scheme")->required();
     subcommand->add_option("PATH", request.path, "The path of an item; more may follow")
         ->required();
-    subcommand->parse_complete_callback([&line] { line.takesPaths = true; });
+    subcommand->preparse_callback([&app, &line](std::size_t) {
+      if (app.remaining_size() > 0)
+        throw CLI::ExtrasError(app.remaining());
+      line.takesPaths = true;
+    });
   };
   addItems(addCommand("drag", "Drag items out of the browser", &dragItems));
   CLI::App* const detail =
@@ -143,18 +149,20 @@ void registerTools(std::vector<std::string> const& names) {
   });
   if (!viewsGiven)
     sources.push_back(ownViews());
-  for (ToolSource const& source : sources) {
+  for (ToolSource const& source : sources)
     for (std::string const& warning : source.warnings)
-      fmt::print(stderr, "qvbrowse: {}\n", printable(warning));
-    registerToolSource(source);
-  }
+      printProblem(warning);
+  registerToolSources(sources);
 }
 
 void run(CommandLine& line) {
   fs::path const resources = installation() / "share" / "qvbrowse";
   HostResources::getInstance().setDirectory(resources);
-  if (line.tools.empty())
-    line.tools = {fs::exists(frei0rDirectory) ? "frei0r" : resources / "sampleCatalogue.json"};
+  if (line.tools.empty()) {
+    std::error_code error;
+    bool const none = fs::is_empty(frei0rDirectory, error) || error;
+    line.tools = {none ? resources / "sampleCatalogue.json" : "frei0r"};
+  }
   registerTools(line.tools);
 
   HostJournal::getInstance().start();
@@ -172,20 +180,24 @@ void run(CommandLine& line) {
 int main(int argc, char** argv) {
   using namespace Qv;
 
-  CLI::App app("Browses the schemes that a module adds to the asset browser.", "qvbrowse");
-  CommandLine line;
   try {
-    declare(app, line);
-    app.parse(argc, argv);
-    takePaths(app, line);
-  } catch (CLI::ParseError const& error) {
-    return app.exit(error) == Success ? Success : Usage;
-  }
-  try {
+    CLI::App app("Browses the schemes that a module adds to the asset browser.", "qvbrowse");
+    CommandLine line;
+    try {
+      declare(app, line);
+      app.parse(argc, argv);
+      takePaths(app, line);
+    } catch (CLI::ParseError const& error) {
+      std::ostringstream help;
+      int const status = app.exit(error, help) == Success ? Success : Usage;
+      writeText(help.str());
+      flushOutput();
+      return status;
+    }
     run(line);
     return Success;
   } catch (std::exception const& error) {
-    fmt::print(stderr, "qvbrowse: {}\n", printable(error.what()));
+    printProblem(error.what());
     return Failure;
   }
 }

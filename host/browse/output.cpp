@@ -1,6 +1,7 @@
 #include "output.h"
 
 #include "hostError.h"
+#include "hostImage.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -21,13 +22,38 @@ std::size_t width(std::string const& text) {
 
 } // namespace
 
+void writeText(std::string const& text) {
+  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
+    throw HostError(fmt::format("cannot write the result: {}", std::strerror(errno)));
+}
+
+Json describeImage(RCShdPtr<WsManagedImage> const& image) {
+  RCShdPtr<HostImage> const hostImage = image.dynamicCast<HostImage>();
+  if (!hostImage)
+    return nullptr;
+  return {{"file", hostImage->getName()},
+          {"width", hostImage->getWidth()},
+          {"height", hostImage->getHeight()}};
+}
+
+std::string imageText(Json const& image) {
+  if (image.is_null())
+    return "none";
+  return fmt::format("{} ({} x {})", image["file"].get<std::string>(), image["width"].dump(),
+                     image["height"].dump());
+}
+
 void printJson(Json const& json) {
-  fmt::print("{}\n", json.dump(2, ' ', false, Json::error_handler_t::replace));
+  writeText(json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
 }
 
 void flushOutput() {
   if (std::fflush(stdout) != 0)
     throw HostError(fmt::format("cannot write the result: {}", std::strerror(errno)));
+}
+
+void printProblem(std::string const& problem) {
+  std::fputs(fmt::format("qvbrowse: {}\n", printable(problem)).c_str(), stderr);
 }
 
 Terminal::Terminal() : colours_(isatty(STDOUT_FILENO) && !std::getenv("NO_COLOR")) {}
@@ -37,27 +63,24 @@ std::string Terminal::styled(fmt::text_style style, std::string const& text) con
 }
 
 void Terminal::printTable(std::vector<std::string> const& heading,
-                          std::vector<std::vector<std::string>> const& rows) const {
-  std::vector<std::size_t> widths;
-  for (std::string const& title : heading)
-    widths.push_back(width(title));
-  for (std::vector<std::string> const& row : rows)
-    for (std::size_t column = 0; column < row.size(); ++column)
-      widths[column] = std::max(widths[column], width(printable(row[column])));
-
-  auto const print = [&](std::vector<std::string> const& row, fmt::text_style style) {
+                          std::vector<std::vector<std::string>> rows) const {
+  rows.insert(rows.begin(), heading);
+  std::vector<std::size_t> widths(heading.size());
+  for (std::vector<std::string>& row : rows)
+    for (std::size_t column = 0; column < row.size(); ++column) {
+      row[column] = printable(row[column]);
+      widths[column] = std::max(widths[column], width(row[column]));
+    }
+  for (std::vector<std::string> const& row : rows) {
+    fmt::text_style const style = &row == &rows.front() ? fmt::emphasis::bold : fmt::text_style();
     std::string line;
     for (std::size_t column = 0; column < row.size(); ++column) {
-      std::string const cell = printable(row[column]);
-      line += styled(style, cell);
-      line.append(widths[column] - width(cell) + 2, ' ');
+      line += styled(style, row[column]);
+      line.append(widths[column] - width(row[column]) + 2, ' ');
     }
     line.erase(line.find_last_not_of(' ') + 1);
-    fmt::print("{}\n", line);
-  };
-  print(heading, fmt::emphasis::bold);
-  for (std::vector<std::string> const& row : rows)
-    print(row, {});
+    writeText(line + "\n");
+  }
 }
 
 char const* yesOrNo(bool value) { return value ? "yes" : "no"; }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "rcShdPtr.h"
+#include "wsManagedImage.h"
+
 #include <fmt/color.h>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -9,11 +12,26 @@ namespace Qv {
 
 using Json = nlohmann::ordered_json;
 
+/// Writes text on stdout. @throws HostError when that fails.
+void writeText(std::string const& text);
+
+/// Writes formatted text on stdout. @throws HostError when that fails.
+template <class... Args> void printText(fmt::format_string<Args...> format, Args const&... values) {
+  writeText(fmt::vformat(format, fmt::make_format_args(values...)));
+}
+
+/// What is known of an image; null when there is none.
+Json describeImage(RCShdPtr<WsManagedImage> const& image);
+std::string imageText(Json const& image);
+
 /// Writes JSON on stdout. Names come from files: bytes that are no UTF-8 are replaced.
 void printJson(Json const& json);
 
 /// Hands all that was printed to whoever reads it. @throws HostError when that fails.
 void flushOutput();
+
+/// Says on stderr what went wrong; what cannot be written there is lost.
+void printProblem(std::string const& problem);
 
 /// Text on stdout for a person.
 class Terminal {
@@ -23,9 +41,10 @@ public:
 
   /// The text in a style, or as it is where there are no colours.
   std::string styled(fmt::text_style style, std::string const& text) const;
-  /// Writes rows with their columns aligned, under a heading; cells hold plain text.
+  /// Writes rows with their columns aligned, under a heading. A cell holds plain text of any
+  /// characters.
   void printTable(std::vector<std::string> const& heading,
-                  std::vector<std::vector<std::string>> const& rows) const;
+                  std::vector<std::vector<std::string>> rows) const;
 
 private:
   bool colours_;

@@ -1,16 +1,14 @@
 #include "toolCatalogue.h"
 
 #include "hostError.h"
+#include "hostFiles.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <fmt/format.h>
-#include <fstream>
 #include <initializer_list>
 #include <nlohmann/json.hpp>
 #include <string_view>
-#include <system_error>
 #include <unordered_set>
 #include <utility>
 
@@ -281,25 +279,21 @@ ToolSource takeCatalogue(Json& value) {
   return source;
 }
 
-std::string readFile(fs::path const& file) {
-  errno = 0;
-  std::ifstream stream(file, std::ios::binary);
-  std::string text;
-  std::array<char, 1 << 16> buffer;
-  while (stream.read(buffer.data(), buffer.size()) || stream.gcount() > 0)
-    text.append(buffer.data(), std::size_t(stream.gcount()));
-  if (!stream.is_open() || stream.bad())
-    throw HostError(fmt::format("cannot read the catalogue \"{}\": {}", file.string(),
-                                std::generic_category().message(errno)));
-  return text;
-}
-
 } // namespace
 
 ToolSource readToolCatalogue(fs::path const& file) {
+  std::string text;
   try {
-    Json catalogue = Builder::build(readFile(file));
-    return takeCatalogue(catalogue);
+    text = readFile(file);
+  } catch (HostError const& error) {
+    throw HostError(
+        fmt::format("cannot read the catalogue \"{}\": {}", file.string(), error.what()));
+  }
+  try {
+    Json catalogue = Builder::build(text);
+    ToolSource source = takeCatalogue(catalogue);
+    source.origin = file;
+    return source;
   } catch (Fault const& fault) {
     throw HostError(fmt::format("the catalogue \"{}\" has a fault at {}: {}", file.string(),
                                 fault.place, fault.reason));

@@ -9,6 +9,9 @@ namespace Qv {
 
 /// Tools and views of one origin, read and checked, and not registered yet.
 struct ToolSource {
+  /// What people call it: a file, a directory.
+  std::string origin;
+
   struct Tool {
     HostToolFacts facts;
     /// Empty when there is none.
@@ -32,9 +35,9 @@ struct ToolSource {
 };
 
 /// Adds the categories and tools to the host's tool registry, the views to its view factory, and
-/// the tooltips of both to its tooltip server: under one name, the last text stays.
-/// @throws HostError at a name that is no single path component or a view that is there already;
-/// what came before it is registered.
-void registerToolSource(ToolSource const& source);
+/// the tooltips of both to its tooltip server. A category that an earlier source lists is not added
+/// again; under one name, the first tooltip stays.
+/// @throws HostError when two sources have a view of the same name; nothing is registered then.
+void registerToolSources(std::vector<ToolSource> const& sources);
 
 } // namespace Qv

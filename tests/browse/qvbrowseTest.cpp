@@ -123,8 +123,9 @@ TEST_F(QvBrowseCall, WrongUseHasItsOwnStatus) {
   for (std::string const lastIsWrong :
        {"prune", "--tools catalogue.json prune", "--prune", "ls tools --prune", "schemes packages",
         "ls tools a surplus", "tree tools --depth -1", "tree tools --depth two",
-        "tree tools --depth 1e99", "ls tools --filter few"})
+        "tree tools --depth 1e99", "ls tools --filter few", "drag views plan --prune"})
     expectUsageError(lastIsWrong, lastIsWrong.substr(lastIsWrong.rfind(' ') + 1));
+  expectUsageError("surplus drag views plan", "surplus");
   for (char const* const tooShort :
        {"ls", "show tools", "drag tools", "detail tools", "run-action Open", "--tools", "--module",
         "tree tools --depth"})
@@ -148,11 +149,14 @@ class QvBrowseRefuses : public QvBrowse {};
 
 TEST_F(QvBrowseRefuses, InOneSentence) {
   write("faulty.json", R"({"tools": {}})");
+  write("views.json", R"({"views": [{"name": "plan"}]})");
   for (auto const& [arguments, reasons] :
        Cases{{"--tools faulty.json", {"\"faulty.json\"", "/tools", "expected an array"}},
+             {"--tools views.json", {"\"views.json\"", "\"plan\"", "\"catalogue.json\""}},
              {"--tools frei0r:missing", {"\"missing\"", "No such file"}},
-             {"--module missing.qvmodule schemes", {"\"missing.qvmodule\"", "no such file"}},
+             {"--module missing.qvmodule schemes", {"\"missing.qvmodule\"", "No such file"}},
              {"ls \"a\x1b\nb\"", {R"("a\x1b\nb")"}},
+             {"tree \"\"", {"\"\""}},
              {"ls parts", {"\"parts\"", "\"tools\", \"views\""}},
              {"drag parts a", {"\"parts\""}},
              {"tree tools a/b/c", {"\"tools\"", "\"a/b/c\""}},
@@ -173,11 +177,14 @@ class QvBrowseSources : public QvBrowse {};
 
 TEST_F(QvBrowseSources, AreCombined) {
   install(CLOUDSPLUGIN_FILE, "clouds.so");
-  write("more.json", R"({"tools": [{"name": "axe", "category": "Wood"}]})");
+  write("more.json", R"({"tools": [{"name": "axe", "category": "Wood"},
+                                   {"name": "saw", "category": "Wood", "tooltip": "Another"}]})");
   json const tools =
       browseJson("--tools more.json --tools frei0r:plugins tree tools").at("children");
-  EXPECT_THAT(all(tools, "name"), ElementsAre("Wood", "Kit", "Empty", "Wood", "Wood", "Source"));
-  EXPECT_THAT(all(tools[0]["children"], "name"), ElementsAre("saw", "größe", "axe"));
+  EXPECT_THAT(all(tools, "name"), ElementsAre("Wood", "Kit", "Empty", "Wood", "Source"));
+  EXPECT_THAT(all(tools[0]["children"], "name"), ElementsAre("saw", "größe", "axe", "saw"));
+  EXPECT_EQ(browseJson("--tools more.json show tools Wood/saw").at("tooltip"),
+            "Cuts wood.<br>Mind your<br>fingers.");
 }
 
 TEST_F(QvBrowseSources, BringViewsOrGetTheOwnOnes) {

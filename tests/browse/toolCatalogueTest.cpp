@@ -143,7 +143,7 @@ TEST_F(ToolCatalogue, IsTakenAsItSays) {
   ASSERT_EQ(source.views.size(), 1U);
   EXPECT_EQ(source.views[0].label, "");
 
-  registerToolSource(source);
+  registerToolSources({source});
   HostToolRegistry& registry = HostToolRegistry::getInstance();
   EXPECT_EQ(registry.getCategories().getCardinality(), 3);
   EXPECT_TRUE(registry.isSuperTool("t"));

@@ -1,54 +1,22 @@
 #include "hostModule.h"
 
 #include "hostError.h"
+#include "hostFiles.h"
 #include "hostPackageManager.h"
 
-#include <boost/dll/shared_library.hpp>
-#include <dlfcn.h>
 #include <set>
 #include <string_view>
 
 namespace Qv {
 
-namespace fs = std::filesystem;
-
-namespace {
-
-/// Why the system's loader could not load `file`, without the path that it starts with.
-std::string loaderError(fs::path const& file) {
-  char const* const text = dlerror();
-  std::string error = text ? text : "the loader gives no reason";
-  std::string const prefix = file.string() + ": ";
-  if (error.starts_with(prefix))
-    error.erase(0, prefix.size());
-  return error;
-}
-
-} // namespace
-
-class HostModule::Library {
-public:
-  explicit Library(fs::path const& file) {
-    std::error_code error;
-    library_.load(file, boost::dll::load_mode::rtld_now, error);
-    if (error)
-      throw HostError("cannot load the module \"" + file.string() + "\": " + loaderError(file));
-  }
-
-private:
-  boost::dll::shared_library library_;
-};
-
-HostModule::HostModule(fs::path const& file) {
-  std::error_code error;
-  fs::path const absolute = fs::absolute(file, error);
-  if (error || !fs::exists(absolute, error))
-    throw HostError("cannot load the module \"" + file.string() +
-                    "\": " + (error ? error.message() : "there is no such file"));
-
+HostModule::HostModule(std::filesystem::path const& file) {
   HostPackageManager& manager = HostPackageManager::getInstance();
   std::size_t const before = manager.getPackages().size();
-  library_ = std::make_unique<Library>(absolute);
+  try {
+    library_ = std::make_unique<boost::dll::shared_library>(loadLibrary(file));
+  } catch (HostError const& error) {
+    throw HostError("cannot load the module \"" + file.string() + "\": " + error.what());
+  }
 
   Vector<InPackageInit*> const& packages = manager.getPackages();
   if (packages.size() == before)

@@ -5,6 +5,10 @@
 #include <filesystem>
 #include <memory>
 
+namespace boost::dll {
+class shared_library;
+} // namespace boost::dll
+
 namespace Qv {
 
 /// A module file that is loaded and initialised for as long as this object lives. One at a time:
@@ -20,8 +24,7 @@ public:
   ~HostModule();
 
 private:
-  class Library;
-  std::unique_ptr<Library> library_;
+  std::unique_ptr<boost::dll::shared_library> library_;
 };
 
 } // namespace Qv

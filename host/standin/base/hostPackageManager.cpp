@@ -5,6 +5,7 @@
 #include "typeName.h"
 
 #include <algorithm>
+#include <boost/dll/runtime_symbol_info.hpp>
 
 namespace Qv {
 
@@ -29,31 +30,29 @@ InPackageInit* HostPackageManager::find(std::type_info const& packageClass) cons
 }
 
 void HostPackageManager::initialize(InPackageInit& package) {
-  if (contains(initialized_, package))
-    return;
   std::string const name = package.getName();
-  // A package that failed half-way stays here as well, until it is uninitialised.
   if (contains(started_, package))
     throw HostError("package \"" + name + "\" depends on itself or has failed before");
+  if (contains(initialized_, package))
+    return;
 
   started_.push_back(&package);
   for (std::type_info const* const needed : package.getDependencies()) {
     InPackageInit* const dependency = find(*needed);
     if (!dependency)
-      throw HostError("package \"" + name + "\" depends on the package " + typeName(*needed) +
-                      ", which no loaded library provides");
+      throw HostError(
+          "package \"" + name + "\" in \"" + boost::dll::symbol_location_ptr(&package).string() +
+          "\" depends on the package " + typeName(*needed) + ", which no loaded library provides");
     initialize(*dependency);
   }
   HostJournal::getInstance().record("InPackageInit::initialize", name);
-  package.initialize();
+  // One that fails half-way is uninitialised as well.
   initialized_.push_back(&package);
+  package.initialize();
+  std::erase(started_, &package);
 }
 
 void HostPackageManager::uninitializeAll() noexcept {
-  // Packages that failed half-way go first: nothing depends on them.
-  for (InPackageInit* const package : started_)
-    if (!contains(initialized_, *package))
-      initialized_.push_back(package);
   started_.clear();
   while (!initialized_.empty()) {
     InPackageInit* const package = initialized_.back();

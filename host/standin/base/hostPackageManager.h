@@ -27,6 +27,7 @@ public:
 private:
   Vector<InPackageInit*> packages_;
   Vector<InPackageInit*> initialized_;
+  /// Those that wait for a dependency, are at it, or have failed.
   Vector<InPackageInit*> started_;
 };
 

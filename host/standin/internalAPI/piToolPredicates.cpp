@@ -1,9 +1,72 @@
 #include "piToolPredicates.h"
 
 #include "hostTool.h"
-#include "prdPredicate.imp.h"
 
 namespace Qv {
+
+/// What a predicate is made of; shared by all predicates that it is part of.
+template <class T> class PrdTerm : public RCBase<LkCounter<int>> {
+public:
+  virtual bool holds(T const& element) const = 0;
+  /// See PrdPredicate::getIndexKey().
+  virtual std::string const* getIndexKey() const { return nullptr; }
+
+protected:
+  ~PrdTerm() override = default;
+};
+
+template <class T> class PrdNot final : public PrdTerm<T> {
+public:
+  explicit PrdNot(RCShdPtr<PrdTerm<T> const> const& term) : term_(term) {}
+
+  bool holds(T const& element) const override { return !term_->holds(element); }
+
+private:
+  RCShdPtr<PrdTerm<T> const> term_;
+};
+
+template <class T> class PrdAnd final : public PrdTerm<T> {
+public:
+  PrdAnd(RCShdPtr<PrdTerm<T> const> const& left, RCShdPtr<PrdTerm<T> const> const& right)
+      : left_(left), right_(right) {}
+
+  bool holds(T const& element) const override {
+    return left_->holds(element) && right_->holds(element);
+  }
+  std::string const* getIndexKey() const override {
+    std::string const* const key = left_->getIndexKey();
+    return key ? key : right_->getIndexKey();
+  }
+
+private:
+  RCShdPtr<PrdTerm<T> const> left_;
+  RCShdPtr<PrdTerm<T> const> right_;
+};
+
+template <class T>
+PrdPredicate<T>::PrdPredicate(RCShdPtr<PrdTerm<T> const> const& term) : term_(term) {}
+
+template <class T> PrdPredicate<T>::PrdPredicate(PrdPredicate const& other) = default;
+
+template <class T> PrdPredicate<T>::~PrdPredicate() = default;
+
+template <class T> PrdPredicate<T>& PrdPredicate<T>::operator=(PrdPredicate const& other) = default;
+
+template <class T> PrdPredicate<T> PrdPredicate<T>::operator!() const {
+  return PrdPredicate(RCShdPtr<PrdTerm<T> const>(new PrdNot<T>(term_)));
+}
+
+template <class T> PrdPredicate<T> PrdPredicate<T>::operator&&(PrdPredicate const& other) const {
+  return PrdPredicate(RCShdPtr<PrdTerm<T> const>(new PrdAnd<T>(term_, other.term_)));
+}
+
+template <class T> bool PrdPredicate<T>::holds(T const& element) const {
+  return term_->holds(element);
+}
+
+template <class T> std::string const* PrdPredicate<T>::getIndexKey() const {
+  return term_->getIndexKey();
+}
 
 using ToolPtr = RCShdPtr<PiTool const>;
 

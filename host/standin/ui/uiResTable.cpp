@@ -1,22 +1,21 @@
 #include "uiResTable.h"
 
 #include "hostError.h"
+#include "hostFiles.h"
 #include "hostJournal.h"
 #include "hostResources.h"
 
 #include <algorithm>
-#include <cerrno>
+#include <array>
 #include <charconv>
-#include <cstring>
 #include <fmt/format.h>
-#include <fstream>
 #include <pugixml.hpp>
 
 namespace Qv {
 
 namespace {
 
-constexpr char const* kindNames[] = {"page", "label", "textEditor"};
+constexpr std::array<char const*, 3> kindNames = {"page", "label", "textEditor"};
 
 /// Reads the elements of one resource file; every fault names the file and the resource.
 class ResourceReader {
@@ -24,11 +23,14 @@ public:
   explicit ResourceReader(std::string file) : file_(std::move(file)) {}
 
   std::map<std::string, UiResTable::Resource> read(std::filesystem::path const& path) {
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream)
-      fail(fmt::format("{} in \"{}\"", std::strerror(errno), path.parent_path().string()));
+    std::string text;
+    try {
+      text = readFile(path);
+    } catch (HostError const& error) {
+      fail(fmt::format("{} in \"{}\"", error.what(), path.parent_path().string()));
+    }
     pugi::xml_document document;
-    pugi::xml_parse_result const result = document.load(stream);
+    pugi::xml_parse_result const result = document.load_buffer(text.data(), text.size());
     if (!result)
       fail(fmt::format("it is no XML at byte {}: {}", result.offset, result.description()));
     pugi::xml_node const root = document.document_element();

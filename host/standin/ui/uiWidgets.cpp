@@ -11,7 +11,8 @@ UiWidget::UiWidget(std::string const& name) : name_(name) {}
 UiWidget::~UiWidget() { removeChildren(); }
 
 void UiWidget::addChild(RCShdPtr<UiWidget> const& child) {
-  RCShdPtr<UiWidget> const added = child;
+  // The old parent may hold the very pointer that was passed.
+  RCShdPtr<UiWidget> const added = child; // NOLINT(performance-unnecessary-copy-initialization)
   if (UiWidget* const before = added->parent_)
     std::erase(before->children_, added);
   children_.push_back(added);
