@@ -2,6 +2,7 @@
 #include "rcStrongPtr.h"
 #include "runTogether.h"
 
+#include <barrier>
 #include <numeric>
 
 namespace Qv {
@@ -33,6 +34,7 @@ TYPED_TEST(PointerThreadTest, lastReleaseSeesWhatEveryHolderWrote) {
   for (int round = 0; round < Rounds; ++round) {
     // The threads hold all references, so one of them deletes the pointee.
     std::vector<Pointer> held(Threads, Pointer(new Pointee(sums)));
+    std::barrier counted(Threads);
     runTogether([&](int i) {
       Pointer own(held[i]);
       held[i] = Pointer();
@@ -40,7 +42,8 @@ TYPED_TEST(PointerThreadTest, lastReleaseSeesWhatEveryHolderWrote) {
         Pointer copy(own);
         own = Pointer(copy);
       }
-      // After the last counting but the release, so that nothing else passes the write on.
+      // All that follows is the release, so nothing else passes the writes on.
+      counted.arrive_and_wait();
       own->slots[i] = i + 1;
     });
   }
