@@ -81,8 +81,8 @@ TEST(Statics, areMadeInOrderAndDestroyedInReverse) {
   EXPECT_EQ(made, expected);
 
   std::vector<Note> reverse;
-  for (auto text = order.rbegin(); text != order.rend(); ++text)
-    reverse.push_back({"~" + *text, 10});
+  for (std::string const& text : std::vector<std::string>(order.rbegin(), order.rend()))
+    reverse.push_back({"~" + text, 10});
   EXPECT_EQ(notes(), reverse);
 }
 
