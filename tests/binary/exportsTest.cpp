@@ -14,6 +14,7 @@ namespace Qv {
 namespace {
 
 /// The names that the module defines for others.
+/// @throws std::runtime_error when one of them would keep the module in memory for good.
 std::set<std::string> exportedNames() {
   std::unique_ptr<FILE, decltype(&pclose)> const nm(
       popen("nm --dynamic --defined-only --format=posix '" PLUGINBROWSERQVMODULE_FILE "'", "r"),
@@ -22,7 +23,10 @@ std::set<std::string> exportedNames() {
   char line[4096];
   while (nm && std::fgets(line, sizeof line, nm.get())) {
     std::string symbol;
-    std::istringstream(line) >> symbol;
+    char type = 0;
+    std::istringstream(line) >> symbol >> type;
+    if (type == 'u')
+      throw std::runtime_error(symbol + " is unique in the process");
     // What the compilers make of the standard library is merged at load, as type identities are.
     if (!std::regex_search(symbol, std::regex("^_Z(Z?N?K?St|NK?9__gnu_cxx|TI|TS)")))
       names.insert(readable(symbol.c_str()));

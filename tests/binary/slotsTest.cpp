@@ -58,8 +58,8 @@ TEST(Slots, areWhatCallersExpect) {
               AnyAction, HostToolRegistry, HostBrRegistry, HostTtServer, HostIconRegistry, HostTool,
               HostActRegistry, HostWorkspace, BvDetailMgr, UiLabel, BrNode, AnyBuildInfo,
               Iterator<std::string>, Iterator<RCShdPtr<BrBrowsable>>,
-              Iterator<RCShdPtr<PiTool const>>, Iterator<LiString>, NamesEngine,
-              BrBrowsablesEngine>();
+              Iterator<RCShdPtr<PiTool const>>, Iterator<LiString>, NamesEngine, BrBrowsablesEngine,
+              PrdPredicate<RCShdPtr<PiTool const>>>();
   EXPECT_EQ(classes.size(), expected.size());
   for (std::type_info const* const type : classes) {
     std::string const name = readable(type->name());

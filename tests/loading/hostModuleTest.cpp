@@ -1,27 +1,22 @@
 #include "hostModule.h"
 #include "allocations.h"
-#include "hostBrRegistry.h"
-#include "hostBuildInfoRegistry.h"
-#include "hostJournal.h"
+#include "hostFiles.h"
 #include "hostPackageManager.h"
 #include "hostResources.h"
 #include "refusal.h"
+#include "registries.h"
 #include "temporaryDirectory.h"
 
+#include <dlfcn.h>
 #include <gmock/gmock.h>
 
 namespace Qv {
 
-static void PrintTo(HostJournal::Entry const& entry, std::ostream* os) {
-  *os << entry.operation << "(" << entry.key << ", " << entry.detail << ")";
-}
-
 namespace {
 
 using testing::HasSubstr;
-
-/// All that was asked of the host, in order.
-using Calls = std::vector<HostJournal::Entry>;
+using testing::IsEmpty;
+using testing::UnorderedElementsAreArray;
 
 class LoadedModule : public testing::Test, protected TemporaryDirectory {
 protected:
@@ -77,54 +72,97 @@ Calls initialisation() {
   return calls;
 }
 
-TEST_F(LoadedModule, declaresItsPackageThenRegistersAllInOrder) {
-  HostModule const module(PLUGINBROWSERQVMODULE_FILE);
-  Calls expected = loading();
+/// What the start of the module does to the host.
+Calls startUp() {
+  Calls calls = loading();
   for (char const* package : {"base", "resmgt", "datamgt", "internalAPI", "framework", "gfx", "ui",
                               "appUi", "pluginAPI", "pluginBrowserQvmodule"})
-    expected.push_back({"InPackageInit::initialize", package, ""});
-  for (HostJournal::Entry const& registration : initialisation())
-    expected.push_back(registration);
-  EXPECT_EQ(journal_.getEntries(), expected);
+    calls.push_back({"InPackageInit::initialize", package, ""});
+  for (HostJournal::Entry const& call : initialisation())
+    calls.push_back(call);
+  return calls;
+}
+
+/// What the registries hold after the first `count` of these calls.
+Calls registrations(Calls const& calls, std::size_t count) {
+  Calls result;
+  for (std::size_t index = 0; index < count; ++index) {
+    HostJournal::Entry call = calls[index];
+    if (call.operation == "BrRegistry::registerIcon")
+      call.detail = calls[index - 1].key;
+    if (!call.operation.starts_with("InPackageInit::") && call.operation != "UiResTable::load" &&
+        call.operation != "UiIconRegistry::loadImage")
+      result.push_back(call);
+  }
+  return result;
+}
+
+TEST_F(LoadedModule, declaresItsPackageThenRegistersAllInOrder) {
+  HostModule const module(PLUGINBROWSERQVMODULE_FILE);
+  Calls const calls = startUp();
+  EXPECT_EQ(journal_.getEntries(), calls);
+  EXPECT_THAT(registered(), UnorderedElementsAreArray(registrations(calls, calls.size())));
 }
 
 TEST_F(LoadedModule, withdrawsNothingAndTheHooksDoNothing) {
   HostModule const module(PLUGINBROWSERQVMODULE_FILE);
   std::size_t const calls = journal_.getEntries().size();
+  Calls const before = registered();
   InPackageInit* const package = findPackage();
   ASSERT_TRUE(package);
   package->packageHookA();
   package->packageHookB();
-  package->setPackageFlag(true);
-  package->setPackageFlag(false);
+  auto const library = loadLibrary(PLUGINBROWSERQVMODULE_FILE);
+  bool const& flag =
+      library.get<bool>("_ZN2Qv6InInitIN6QvInit21pluginBrowserQvmoduleEE12packageFlag_E");
+  EXPECT_FALSE(flag);
+  for (bool const value : {true, false}) {
+    package->setPackageFlag(value);
+    EXPECT_EQ(flag, value);
+  }
   package->uninitialize();
   EXPECT_EQ(journal_.getEntries().size(), calls);
-  EXPECT_EQ(HostBrRegistry::getInstance().getServers().size(), 2U);
-  EXPECT_EQ(HostBuildInfoRegistry::getInstance().getInfos().size(), 1U);
+  EXPECT_EQ(registered(), before);
 }
 
 TEST_F(LoadedModule, leavesWhenItIsUnloaded) {
-  for (int round = 0; round < 2; ++round) {
+  long before = 0;
+  for (int round = 0; round < 100; ++round) {
     { HostModule const module(PLUGINBROWSERQVMODULE_FILE); }
-    EXPECT_EQ(findPackage(), nullptr);
-    EXPECT_TRUE(HostBrRegistry::getInstance().getServers().empty());
-    EXPECT_FALSE(HostBrRegistry::getInstance().getIcon("Tool"));
+    ASSERT_EQ(dlopen(PLUGINBROWSERQVMODULE_FILE, RTLD_NOW | RTLD_NOLOAD), nullptr);
+    ASSERT_EQ(findPackage(), nullptr);
+    ASSERT_THAT(registered(), IsEmpty());
+    journal_.start();
+    // The first round leaves what is made once and kept.
+    if (round == 0)
+      before = liveAllocations();
+    ASSERT_EQ(liveAllocations(), before) << "in round " << round;
   }
 }
 
-TEST_F(LoadedModule, losesNothingWhenARegistrationFails) {
+TEST_F(LoadedModule, leavesWhatItRegisteredBeforeAFailureOfTheHost) {
   { HostModule const module(PLUGINBROWSERQVMODULE_FILE); }
-  std::size_t const first = loading().size() + dependencies.size() + 1;
-  std::size_t const count = initialisation().size();
-  for (std::size_t index = 0; index < count; ++index) {
-    SCOPED_TRACE(initialisation()[index].key);
+  Calls const calls = startUp();
+  for (std::size_t failing = 0; failing < calls.size(); ++failing) {
+    SCOPED_TRACE(testing::PrintToString(calls[failing]));
     journal_.start();
     long const before = liveAllocations();
-    journal_.failAt(first + index);
-    EXPECT_THROW(HostModule const module(PLUGINBROWSERQVMODULE_FILE), HostError);
-    EXPECT_EQ(journal_.getEntries().size(), first + index + 1)
-        << "the call that failed is the last";
+    journal_.failAt(failing);
+    {
+      auto const library = loadLibrary(PLUGINBROWSERQVMODULE_FILE);
+      HostPackageManager& manager = HostPackageManager::getInstance();
+      auto const initialize = [&] {
+        manager.throwLoadFailure();
+        manager.initialize(*findPackage());
+      };
+      EXPECT_EQ(refusalOf(initialize), calls[failing].operation + " was told to fail");
+      // Loading goes on after a failure; initialising does not.
+      EXPECT_EQ(journal_.getEntries().size(), std::max(failing + 1, loading().size()));
+      EXPECT_THAT(registered(), UnorderedElementsAreArray(registrations(calls, failing)));
+      manager.uninitializeAll();
+    }
     EXPECT_EQ(findPackage(), nullptr);
+    EXPECT_THAT(registered(), IsEmpty());
     journal_.start();
     EXPECT_EQ(liveAllocations() - before, 0);
   }
@@ -134,11 +172,11 @@ TEST_F(LoadedModule, registersNullImagesToo) {
   std::filesystem::copy(std::filesystem::path(RESOURCE_DIR) / "bvTool.xml", directory_);
   HostResources::getInstance().setDirectory(directory_);
   HostModule const module(PLUGINBROWSERQVMODULE_FILE);
-  int icons = 0;
-  for (HostJournal::Entry const& entry : journal_.getEntries())
-    icons += entry.operation == "BrRegistry::registerIcon";
-  EXPECT_EQ(icons, 8);
-  EXPECT_EQ(journal_.getEntries().back().key, "Open in Window");
+  Calls const all = registered();
+  EXPECT_EQ(std::count_if(all.begin(), all.end(),
+                          [](auto const& call) { return call.detail == "no image"; }),
+            8);
+  EXPECT_EQ(all.back().key, "Open in Window");
 }
 
 std::string refusal(std::string const& file) {

@@ -128,22 +128,6 @@ inline void expectThumbnail(BrBrowsable& item, LiString const& key) {
   EXPECT_EQ(item.getImage(int(BrBrowsable::THUMBNAIL), {512, 512}), image);
 }
 
-/// Expects what items of both schemes answer alike, that they do not let their name be set, and
-/// that the other attributes are left to the base class.
-inline void expectRemainingAttributes(BrBrowsable& item, std::vector<unsigned int> const& others) {
-  item.set(int(BrBrowsable::NAME), LiString("other"));
-  item.set(int(BrBrowsable::NAME), 7LL);
-  EXPECT_EQ(attribute(item, BrBrowsable::ROOT_NAME), "Plugin Registry");
-  for (unsigned int const id :
-       {BrBrowsable::OWNER, BrBrowsable::LMTIME, BrBrowsable::CREATION_TIME})
-    EXPECT_EQ(attribute(item, id), BrBrowsable::NotAvailableString);
-  for (unsigned int const id : others) {
-    LiString expected;
-    item.BrBrowsable::get(int(id), &expected);
-    EXPECT_EQ(attribute(item, id), expected);
-  }
-}
-
 /// The calls that the journal holds, as "operation(key)".
 inline std::vector<std::string> calls() {
   std::vector<std::string> result;

@@ -120,16 +120,6 @@ TEST_F(ToolBrowsable, equalsItemsOfTheSamePath) {
   EXPECT_TRUE(tool("graph")->isEqualTo(*view("graph"))) << "even of another class";
 }
 
-TEST_F(ToolBrowsable, answersTheRemainingAttributes) {
-  RCShdPtr<PbrToolBrowsable> const item = tool("Colour/invert");
-  expectRemainingAttributes(*item, {4711});
-  EXPECT_EQ(attribute(*item, BrBrowsable::NAME), "invert");
-  EXPECT_EQ(attribute(*item, BrBrowsable::BROWSABLE_ROLE), "");
-  long long number = -1;
-  item->get(int(BrBrowsable::NAME), &number);
-  EXPECT_EQ(number, 0);
-}
-
 TEST_F(ToolBrowsable, composesItsTooltip) {
   tooltips_.setTooltip("invert", "Swaps light and dark");
   tooltips_.setTooltip("Colour", "All about colour");
@@ -158,6 +148,7 @@ public:
       : PbrToolBrowsable(server, path), container_(container) {}
 
   bool isAContainer() const override { return container_; }
+  void setContainer(bool container) { container_ = container; }
 
 private:
   bool container_;
@@ -174,17 +165,29 @@ TEST_F(ToolBrowsable, asksItselfWhetherItIsAContainer) {
           paths(item->getChildren(BrBrowsable::FindFilter(filter))->getNextChildSequence()).empty(),
           !container);
   }
-  EXPECT_FALSE(
-      paths(tool("")->getChildren(BrBrowsable::FindFilter(1))->getNextChildSequence()).empty());
+  RCShdPtr<PbrToolBrowsable> const folder = tool("");
+  for (int const filter : {1, 3})
+    EXPECT_FALSE(paths(folder->getChildren(BrBrowsable::FindFilter(filter))->getNextChildSequence())
+                     .empty());
+
+  RCShdPtr<OwnContainer> const item(new OwnContainer(&toolServer_, "Colour", false));
+  RCShdPtr<BrChildrenQuery> const query = item->getChildren(AllChildren);
+  query->getNextChildSequence();
+  item->setContainer(true);
+  EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty()) << "it has been asked";
+  query->reset();
+  EXPECT_EQ(paths(query->getNextChildSequence()).size(), 3U);
 }
 
-TEST_F(ToolBrowsable, passesItsFlagsToTheRegistry) {
+TEST_F(ToolBrowsable, asksTheRegistriesInOrder) {
+  using Entry = HostJournal::Entry;
   journal_.start();
   tool("Colour")->getTooltip(0);
-  EXPECT_THAT(
-      journal_.getEntries(),
-      testing::IsSupersetOf({HostJournal::Entry{"PiToolRegistry::getTools", "Colour", "true"},
-                             HostJournal::Entry{"PiToolRegistry::findTool", "Colour", "false"}}));
+  EXPECT_THAT(journal_.getEntries(),
+              ElementsAre(Entry{"PiToolRegistry::getTools", "Colour", "true"},
+                          Entry{"PiToolRegistry::isSuperTool", "Colour", ""},
+                          Entry{"PiToolRegistry::findTool", "Colour", "false"},
+                          Entry{"TtServer::lookupTooltip", "Colour", ""}));
 }
 
 class ToolChildrenQuery : public ToolBrowsable {};
@@ -237,16 +240,6 @@ TEST_F(ToolChildrenQuery, staysPendingWhenAChildFails) {
   journal_.stop();
   EXPECT_THAT(paths(query->getNextChildSequence()),
               ElementsAre("Colour/invert", "Colour/Grade", "Colour/blur"));
-}
-
-TEST_F(ToolChildrenQuery, losesNothingWhenMemoryRunsOut) {
-  RCShdPtr<PbrToolBrowsable> const folder = tool("");
-  EXPECT_GT(forEachFailingAllocation([&] {
-              RCShdPtr<BrChildrenQuery> const query = folder->getChildren(AllChildren);
-              Iterator<RCShdPtr<BrBrowsable>> children = query->getNextChildSequence();
-              children++;
-            }),
-            10);
 }
 
 } // namespace

@@ -195,17 +195,6 @@ TEST_F(ToolView, isClonedWithoutWidgets) {
   EXPECT_EQ(values(clone), none);
 }
 
-TEST_F(ToolView, losesNothingWhenMemoryRunsOut) {
-  Browsable const item = tool("x/full");
-  item->getImage(int(BrBrowsable::THUMBNAIL), {1, 1});
-  EXPECT_GT(forEachFailingAllocation([&] {
-              PbrToolView detail;
-              build(detail);
-              detail.setContent(item, noSelection);
-            }),
-            50);
-}
-
 class ToolViewPage : public ToolView, protected TemporaryDirectory {};
 
 TEST_F(ToolViewPage, isRefusedWithTheReason) {

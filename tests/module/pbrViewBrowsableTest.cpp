@@ -66,12 +66,6 @@ TEST_F(ViewBrowsable, equalsItemsOfTheSameViewName) {
   EXPECT_FALSE(view("graph")->isEqualTo(*tool("graph")));
 }
 
-TEST_F(ViewBrowsable, answersTheRemainingAttributes) {
-  RCShdPtr<PbrViewBrowsable> const item = view("graph");
-  expectRemainingAttributes(*item, {BrBrowsable::BROWSABLE_ROLE, 4711});
-  EXPECT_EQ(attribute(*item, BrBrowsable::NAME), "Node Graph");
-}
-
 TEST_F(ViewBrowsable, hasAPrototype) {
   RCShdPtr<PbrViewBrowsable> const prototype = PbrViewBrowsable::createBrowsableType();
   EXPECT_EQ(prototype->getServer(), nullptr);
@@ -115,13 +109,6 @@ TEST_F(ViewChildrenQuery, yieldsNothingForAView) {
     query->reset();
   }
   EXPECT_THAT(calls(), IsEmpty());
-}
-
-TEST_F(ViewChildrenQuery, losesNothingWhenMemoryRunsOut) {
-  RCShdPtr<PbrViewBrowsable> const folder = view("");
-  EXPECT_GT(
-      forEachFailingAllocation([&] { folder->getChildren(ItemsOnly)->getNextChildSequence()++; }),
-      10);
 }
 
 } // namespace

@@ -24,10 +24,10 @@ public:
 };
 
 /// Runs `f` with its first, second, third ... allocation failing, until it passes without reaching
-/// the failure. Each failed run must end in std::bad_alloc, and no run may lose an allocation.
-/// Stops at the first run that breaks this.
+/// the failure; after each failed run, runs `check`. Each failed run must end in std::bad_alloc,
+/// and no run may lose an allocation. Stops at the first run that breaks this.
 /// @returns how many allocations were made to fail.
-template <class F> int forEachFailingAllocation(F f) {
+template <class F, class Check> int forEachFailingAllocation(F f, Check check) {
   for (int n = 1;; ++n) {
     long const before = liveAllocations();
     bool reached = false;
@@ -41,6 +41,8 @@ template <class F> int forEachFailingAllocation(F f) {
       }
       reached = failing.wasReached();
     }
+    if (thrown)
+      check();
     long const lost = liveAllocations() - before;
     if (thrown != reached)
       ADD_FAILURE() << "allocation " << n << " failed, and std::bad_alloc did not come out";
@@ -50,6 +52,10 @@ template <class F> int forEachFailingAllocation(F f) {
       continue;
     return n - 1;
   }
+}
+
+template <class F> int forEachFailingAllocation(F f) {
+  return forEachFailingAllocation(f, [] {});
 }
 
 /// A test that must end with as many live allocations as it started with. What a derived class

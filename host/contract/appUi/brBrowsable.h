@@ -114,7 +114,7 @@ public:
   BrBrowsable();
 
   /// Null for a type prototype.
-  BrServer* getServer() const { return server_; }
+  BrServer* getServer() const;
 
 private:
   BrServer* server_;

@@ -7,6 +7,11 @@ namespace Qv {
 /// The registry of drag-and-drop handlers.
 class QV_EXPORT BrDndRegistry {
 public:
+  struct Entry {
+    RCShdPtr<BrBrowsable> type;
+    RCShdPtr<BrDndHandler> handler;
+  };
+
   static BrDndRegistry& getInstance();
 
   /// Attaches a handler to the class of items that the prototype `type` stands for. Returns false
@@ -15,14 +20,11 @@ public:
 
   /// The handler for items of that class; null when there is none.
   RCShdPtr<BrDndHandler> findHandler(BrBrowsable const& item) const;
+  /// In order of registration.
+  Vector<Entry> const& getEntries() const { return entries_; }
   void clear() { entries_.clear(); }
 
 private:
-  struct Entry {
-    RCShdPtr<BrBrowsable> type;
-    RCShdPtr<BrDndHandler> handler;
-  };
-
   Vector<Entry> entries_;
 };
 

@@ -11,7 +11,7 @@ public:
   virtual ~UiResHolder();
 
   /// The table lives as long as the holder; null when there is none.
-  UiResTable const* getResTable() const { return resTable_.get(); }
+  UiResTable const* getResTable() const;
 
 protected:
   OPtr<UiResTable> resTable_;

@@ -3,7 +3,6 @@
 #include "containers.h"
 #include "qvExport.h"
 
-#include <string>
 #include <typeinfo>
 
 namespace Qv {
@@ -27,7 +26,7 @@ public:
 /// A package under a name, with the packages that it needs.
 class QV_EXPORT InPackageInit : public InPackageInitBase {
 public:
-  /// @param name is copied.
+  /// @param name is not copied.
   explicit InPackageInit(char const* name);
   /// Withdraws the package from the package manager.
   ~InPackageInit() override;
@@ -38,15 +37,18 @@ public:
   void removeDependency(InVariableBase* variable) override;
   char const* getName() const override;
 
+  // A package calls these two while its library is loaded, when nothing may be thrown: the package
+  // manager keeps a failure for whoever loads.
+
   /// Makes the package known to the package manager; called once.
-  void registerPackage();
+  void registerPackage() noexcept;
   /// Records that this package needs the package whose package class is `package`.
-  void addDependency(std::type_info const* package);
+  void addDependency(std::type_info const* package) noexcept;
   /// The package classes needed, in the order of declaration.
   Vector<std::type_info const*> const& getDependencies() const { return dependencies_; }
 
 private:
-  std::string name_;
+  char const* name_;
   Vector<std::type_info const*> dependencies_;
 };
 

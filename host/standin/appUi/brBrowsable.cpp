@@ -40,6 +40,8 @@ BrBrowsable::BrBrowsable() : BrBrowsable(nullptr) {}
 
 BrBrowsable::~BrBrowsable() = default;
 
+BrServer* BrBrowsable::getServer() const { return server_; }
+
 // An item that overrides nothing has no attributes: reading gives NotAvailableString or the empty
 // value, writing is ignored, and nothing is loaded, editable, selected or played.
 

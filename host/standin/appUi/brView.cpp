@@ -6,6 +6,8 @@ LiString BrView::DETAIL("detail");
 
 UiResHolder::~UiResHolder() = default;
 
+UiResTable const* UiResHolder::getResTable() const { return resTable_.get(); }
+
 BrView::~BrView() = default;
 
 bool BrView::setFullScreen() { return false; }

@@ -9,12 +9,22 @@ namespace Qv {
 /// Keeps the schemes, views and icons, and loads the standard thumbnails.
 class QV_EXPORT HostBrRegistry final : public BrRegistry {
 public:
+  struct View {
+    LiString role;
+    OPtr<BrView> view;
+  };
+  /// By key and variant.
+  using Images = std::map<std::pair<std::string, std::string>, RCShdPtr<WsManagedImage>>;
+
   static HostBrRegistry& getInstance();
 
   /// In order of registration.
   Vector<OPtr<BrServer>> const& getServers() const { return servers_; }
   /// The server of a scheme. @throws HostError when nobody registered the scheme.
   BrServer& getServer(std::string const& scheme) const;
+  /// In order of registration.
+  Vector<View> const& getViews() const { return views_; }
+  Images const& getIcons() const { return icons_; }
   /// The image that draws items of that type; null when there is none.
   RCShdPtr<WsManagedImage> getIcon(std::string const& key) const;
   /// A new clone of the view that shows items like this in detail; null when there is none.
@@ -28,17 +38,10 @@ public:
                     LiString const& variant) override;
 
 private:
-  struct View {
-    LiString role;
-    OPtr<BrView> view;
-  };
-
   BrServer* find(std::string const& scheme) const;
 
   Vector<OPtr<BrServer>> servers_;
   Vector<View> views_;
-  /// By key and variant.
-  using Images = std::map<std::pair<std::string, std::string>, RCShdPtr<WsManagedImage>>;
   Images icons_;
   Images thumbnails_;
 };

@@ -29,7 +29,6 @@ public:
   /// Keeps no further entry and fails no further call.
   void stop();
   /// Lets the call that makes entry `index`, counted from 0, fail. Lasts until start() or stop().
-  /// It must not be a call that a library makes while it is loaded.
   void failAt(std::size_t index) { failAt_ = index; }
 
   /// Adds an entry while the journal is kept. @throws HostError where told to fail.

@@ -18,6 +18,7 @@ HostModule::HostModule(std::filesystem::path const& file) {
     throw HostError("cannot load the module \"" + file.string() + "\": " + error.what());
   }
 
+  manager.throwLoadFailure();
   Vector<InPackageInit*> const& packages = manager.getPackages();
   if (packages.size() == before)
     throw HostError("the module \"" + file.string() + "\" registers no package");

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <boost/dll/runtime_symbol_info.hpp>
+#include <utility>
 
 namespace Qv {
 
@@ -70,6 +71,16 @@ void HostPackageManager::remove(InPackageInit& package) noexcept {
   std::erase(packages_, &package);
   std::erase(initialized_, &package);
   std::erase(started_, &package);
+}
+
+void HostPackageManager::keepLoadFailure() noexcept {
+  if (!loadFailure_)
+    loadFailure_ = std::current_exception();
+}
+
+void HostPackageManager::throwLoadFailure() {
+  if (std::exception_ptr const failure = std::exchange(loadFailure_, nullptr))
+    std::rethrow_exception(failure);
 }
 
 } // namespace Qv

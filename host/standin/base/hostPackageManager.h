@@ -2,6 +2,8 @@
 
 #include "inPackageInit.h"
 
+#include <exception>
+
 namespace Qv {
 
 /// Knows the packages and initialises them after those they depend on.
@@ -20,15 +22,20 @@ public:
   /// Uninitialises in reverse order. The registries of the host let go of all they hold.
   void uninitializeAll() noexcept;
 
-  /// Refuses nothing: this is called while a library is loaded, when nobody can be told.
   void add(InPackageInit& package);
   void remove(InPackageInit& package) noexcept;
+
+  /// Keeps the exception that is being handled, if it is the first one.
+  void keepLoadFailure() noexcept;
+  /// Throws the exception that was kept, and forgets it.
+  void throwLoadFailure();
 
 private:
   Vector<InPackageInit*> packages_;
   Vector<InPackageInit*> initialized_;
   /// Those that wait for a dependency, are at it, or have failed.
   Vector<InPackageInit*> started_;
+  std::exception_ptr loadFailure_;
 };
 
 } // namespace Qv

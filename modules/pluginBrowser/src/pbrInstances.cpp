@@ -1,6 +1,7 @@
 #include "pbrInstances.h"
 
 #include "ixMemory.h"
+#include "oPtr.h"
 #include "pbrDraggedItems.h"
 #include "pbrToolBrowsable.h"
 #include "pbrToolDndHandler.h"
@@ -10,6 +11,17 @@
 #include "snSelection.h"
 
 namespace Qv {
+
+// Callers hold these by value, so their sizes are fixed as well.
+static_assert(sizeof(RCShdPtr<BrBrowsable>) == sizeof(void*));
+static_assert(sizeof(OPtr<BrBrowsable>) == sizeof(void*));
+static_assert(sizeof(RCStrongPtr<Names>) == 2 * sizeof(void*));
+static_assert(sizeof(RCPvtEngPtr<IteratorImp<std::string>>) == sizeof(void*));
+static_assert(sizeof(Iterator<std::string>) == 2 * sizeof(void*));
+static_assert(sizeof(NamesEngine) == 5 * sizeof(void*));
+static_assert(sizeof(BrBrowsablesEngine) == 5 * sizeof(void*));
+static_assert(sizeof(RCSWCount<LkCounter<int>>) == 2 * sizeof(void*));
+static_assert(std::is_same_v<Iterator<std::string>::difference_type, std::int64_t>);
 
 template void RCBasePtr<PiNodeDndInterface const>::dump(std::ostream& os) const;
 template void RCBasePtr<PbrToolDndHandler>::dump(std::ostream& os) const;

@@ -48,7 +48,7 @@ InPackageInit::InPackageInit(char const* name) : name_(name) { note(this, name_)
 
 InPackageInit::~InPackageInit() {
   HostPackageManager::getInstance().remove(*this);
-  note(this, "~" + name_);
+  note(this, std::string("~") + name_);
 }
 
 OsFilePath::OsFilePath(std::string const& path) : path_(path) { note(this, path_); }
