@@ -98,6 +98,8 @@ TEST_F(ToolView, buildsItsWidgetsInOrder) {
   EXPECT_EQ(detail.getPages()[0].widget->getName(), "GeneralInfo");
   EXPECT_THAT(texts(detail, 0), ElementsAre("Full name", "Description", "Origin", "State"));
   EXPECT_EQ(values(detail), none);
+  for (RCShdPtr<UiWidget> const& field : fields(detail))
+    EXPECT_EQ(field->getRefCount(), 2) << "the page and the view hold " << field->getName();
   auto const editor = fields(detail)[3].checkedCast<UiTextEditor>();
   EXPECT_FALSE(editor->isEditable());
   EXPECT_THAT(
@@ -117,9 +119,9 @@ TEST_F(ToolView, showsEachItemInPlaceOfTheLast) {
     char const* image;
   };
   for (Case const& item :
-       {Case{tool("/x/full"), full, "toolThumbnail.tif"},
+       {Case{tool("x/nosuch"), none, "toolThumbnail.tif"},
+        Case{tool("/x/full"), full, "toolThumbnail.tif"},
         Case{tool("x/old"), old, "toolThumbnail.tif"},
-        Case{tool("x/nosuch"), none, "toolThumbnail.tif"},
         Case{tool("Grade"), grade, "superToolThumbnail.tif"},
         Case{view("full"), none, "viewThumbnail.tif"},
         Case{tool("full"), full, "folderThumbnail.tif"}, Case{Browsable(), none, ""}}) {

@@ -1,5 +1,7 @@
 #include "moduleTest.h"
 
+#include "pbrViewDndHandler.h"
+
 namespace Qv {
 
 namespace {
@@ -64,6 +66,26 @@ TEST_F(ViewBrowsable, equalsItemsOfTheSameViewName) {
   EXPECT_TRUE(view("")->isEqualTo(*view("Views")));
   EXPECT_FALSE(view("graph")->isEqualTo(*view("Graph")));
   EXPECT_FALSE(view("graph")->isEqualTo(*tool("graph")));
+}
+
+/// A view that lists views of its own.
+class ViewOfViews final : public PbrViewBrowsable {
+public:
+  explicit ViewOfViews(BrServer* server) : PbrViewBrowsable(server, "graph") {}
+
+  bool isAContainer() const override { return true; }
+  LiString getPath() const override { return ""; }
+};
+
+TEST_F(ViewBrowsable, asksItselfWhetherItIsAContainer) {
+  RCShdPtr<PbrViewBrowsable> const item(new ViewOfViews(&viewServer_));
+  for (int const type : {0, 2})
+    EXPECT_TRUE(item->hasChildren(BrBrowsable::ChildSearchType(type), NoOption));
+  EXPECT_FALSE(item->hasChildren(ContainerChildren, NoOption));
+  EXPECT_FALSE(item->isPicklistable());
+  EXPECT_THAT(paths(item->getChildren(AllChildren)->getNextChildSequence()),
+              ElementsAre("graph", "Views"));
+  EXPECT_FALSE(PbrViewDndHandler().willPopulateSelection(item));
 }
 
 TEST_F(ViewBrowsable, hasAPrototype) {

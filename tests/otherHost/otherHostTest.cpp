@@ -111,7 +111,7 @@ TEST_F(OtherHost, endsTheSequenceThatIsStillPending) {
   RCShdPtr<PbrToolBrowsable> const toolFolder = tool("");
   RCShdPtr<PbrViewBrowsable> const viewFolder = view("");
   RCShdPtr<BrChildrenQuery> const tools = toolFolder->getChildren(AllChildren);
-  RCShdPtr<BrChildrenQuery> const views = viewFolder->getChildren(AllChildren);
+  RCShdPtr<BrChildrenQuery> const views = viewFolder->getChildren(BrBrowsable::FindFilter(3));
   expectFailures(*tools, [](auto f) { expectAbort(f, "pbrToolBrowsable", 171); });
   expectFailures(*views, [](auto f) { expectAbort(f, "pbrViewBrowsable", 113); });
   viewNames->at(2) = "b";

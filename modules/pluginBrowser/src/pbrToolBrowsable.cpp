@@ -26,23 +26,20 @@ PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
     : BrBrowsable(server), path_(path), superTool_(false) {
   Iterator<std::string> components = OmUtil::parsePath(OsFilePath(path));
   switch (components.getCardinality()) {
-  case 0: {
+  case 0:
     type_ = FOLDER;
     toolName_ = "Tools";
-    Iterator<std::string> categories = PiToolRegistry::getInstance().getCategories();
-    for (; !categories.atEnd(); categories.next())
+    for (auto categories = PiToolRegistry::getInstance().getCategories(); !categories.atEnd();
+         categories.next())
       childNames_.push_back(LiString(categories.item()));
     break;
-  }
-  case 1: {
+  case 1:
     type_ = CATEGORY;
     toolName_ = components.item();
-    Iterator<RCShdPtr<PiTool const>> tools = findTools(toolName_);
-    for (; !tools.atEnd(); tools.next())
+    for (auto tools = findTools(toolName_); !tools.atEnd(); tools.next())
       childNames_.push_back(LiString(tools.item()->getName()));
     superTool_ = PiToolRegistry::getInstance().isSuperTool(toolName_);
     break;
-  }
   case 2:
     components.next();
     type_ = TOOL;

@@ -70,8 +70,9 @@ RCShdPtr<BvDetailMgr> PbrToolView::buildDetails(UiResTable const* resources) {
     if (field == 1) {
       RCShdPtr<UiTextEditor> const editor =
           manager->createAndAddValueTextEditor(valueName.c_str(), resources);
-      editor->setColor(UiWidget::BackgroundColor,
-                       UiColorRegistry::getInstance().getColor(UiColorRegistry::NonEditBackground));
+      CoRgbColorTyped<float> const background =
+          UiColorRegistry::getInstance().getColor(UiColorRegistry::NonEditBackground);
+      editor->setColor(UiWidget::BackgroundColor, background);
       editor->setEditable(false);
       fieldValues_.push_back(editor);
     } else {

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "brDndRegistry.h"
+#include "drCarrier.h"
+#include "hostBrRegistry.h"
+#include "hostPackageManager.h"
+#include "hostResources.h"
+#include "hostToolRegistry.h"
+#include "hostTtServer.h"
+#include "hostViewFactory.h"
+
+#include <cstdlib>
+
+namespace Qv {
+
+/// Has the linked module register its schemes.
+inline void startModule() {
+  HostResources::getInstance().setDirectory(RESOURCE_DIR);
+  HostPackageManager& manager = HostPackageManager::getInstance();
+  for (InPackageInit* const package : manager.getPackages())
+    manager.initialize(*package);
+}
+
+/// Ends the program, with the input that led here, when a property does not hold.
+inline void require(bool property) {
+  if (!property)
+    std::abort();
+}
+
+inline std::string nameOf(BrBrowsable& item) {
+  LiString name;
+  item.get(int(BrBrowsable::NAME), &name);
+  return name;
+}
+
+/// Asks an item and all below it whatever a browser asks. @returns how many children it has.
+inline int browse(BrServer& server, RCShdPtr<BrBrowsable> const& item) {
+  LiString message;
+  require(server.getNode(item->getPath(), message)->getBrowsable()->isEqualTo(*item));
+  item->getTooltip(0);
+  item->getImage(int(BrBrowsable::THUMBNAIL), {128, 128});
+  RCShdPtr<DrCarrier> const carrier(new DrCarrier(SnSelection::create()));
+  BrDndRegistry::getInstance().findHandler(*item)->populateSelection(item, carrier);
+  HostBrRegistry::getInstance().createDetailView(item);
+
+  RCShdPtr<BrChildrenQuery> const query = item->getChildren(BrBrowsable::FindFilter(0));
+  Iterator<RCShdPtr<BrBrowsable>> children = query->getNextChildSequence();
+  int const count = children.getCardinality();
+  require(count == 0 || item->isAContainer());
+  for (; !children.atEnd(); children.next())
+    browse(server, children.item());
+  return count;
+}
+
+inline int browseTree(char const* scheme) {
+  BrServer& server = HostBrRegistry::getInstance().getServer(scheme);
+  LiString message;
+  return browse(server, server.getNode("", message)->getBrowsable());
+}
+
+inline void clearRegistries() {
+  HostToolRegistry::getInstance().clear();
+  HostViewFactory::getInstance().clear();
+  HostTtServer::getInstance().clear();
+}
+
+} // namespace Qv

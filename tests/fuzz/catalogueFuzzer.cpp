@@ -1,0 +1,37 @@
+// An input is a catalogue: it is registered as a whole, and can be browsed then, or not at all.
+
+#include "browse.h"
+#include "hostError.h"
+#include "toolCatalogue.h"
+
+#include <cstdint>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace Qv {
+
+extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
+  startModule();
+  return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+  static int const file = memfd_create("catalogue", 0);
+  require(ftruncate(file, 0) == 0 && pwrite(file, data, size, 0) == ssize_t(size));
+  int tools = 0;
+  int views = 0;
+  try {
+    ToolSource const source = readToolCatalogue("/proc/self/fd/" + std::to_string(file));
+    registerToolSources({source});
+    tools = int(source.categories.size());
+    views = int(source.views.size());
+  } catch (HostError const&) {
+    // Nothing may be registered then.
+  }
+  require(browseTree("tools") == tools);
+  require(browseTree("views") == views);
+  clearRegistries();
+  return 0;
+}
+
+} // namespace Qv
