@@ -9,6 +9,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <boost/dll/runtime_symbol_info.hpp>
 #include <cstring>
 #include <sstream>
 
@@ -22,12 +23,20 @@ constexpr int Success = 0;
 constexpr int Failure = 1;
 constexpr int Usage = 2;
 
-/// The folder above `bin`, where this program lies beside the libraries and the resources.
-fs::path installation() { return fs::read_symlink("/proc/self/exe").parent_path().parent_path(); }
+/// In the folder `share` beside that of this program.
+fs::path resourceDirectory() {
+  return fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "share" / "qvbrowse";
+}
+
+/// Beside the host's libraries.
+fs::path standardModule() {
+  fs::path const library = boost::dll::symbol_location_ptr(&HostJournal::getInstance());
+  return fs::canonical(library).replace_filename("libQVpluginBrowser.qvmodule");
+}
 
 /// What the command line says.
 struct CommandLine {
-  fs::path module = installation() / "lib" / "libQVpluginBrowser.qvmodule";
+  fs::path module = standardModule();
   std::vector<std::string> tools;
   Request request;
   void (*command)(Request const&) = &showTrees;
@@ -156,7 +165,7 @@ void registerTools(std::vector<std::string> const& names) {
 }
 
 void run(CommandLine& line) {
-  fs::path const resources = installation() / "share" / "qvbrowse";
+  fs::path const resources = resourceDirectory();
   HostResources::getInstance().setDirectory(resources);
   if (line.tools.empty()) {
     std::error_code error;

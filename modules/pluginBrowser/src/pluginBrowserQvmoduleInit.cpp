@@ -38,10 +38,10 @@ public:
   char const* getProductName() const override { return "Halvard Ostrel Library"; }
   char const* getLibraryName() const override { return "libQvpluginBrowserQvmodule"; }
   char const* getReleaseName() const override { return "2013"; }
-  char const* getVersionString() const override { return "8.0"; }
+  char const* getVersionString() const override { return QV_VERSION; }
   char const* getStageName() const override { return ""; }
-  int getMajorVersion() const override { return 8; }
-  int getMinorVersion() const override { return 0; }
+  int getMajorVersion() const override { return QV_VERSION_MAJOR; }
+  int getMinorVersion() const override { return QV_VERSION_MINOR; }
   int getStageCode() const override { return 42; }
   char const* getBuildNumber() const override { return "2600"; }
   char const* getBuildDate() const override { return "Jun 12 2012"; }
