@@ -9,3 +9,32 @@ write_basic_package_version_file(${config_version} COMPATIBILITY SameMajorVersio
 install(FILES ${config} ${config_version} DESTINATION ${config_dir} COMPONENT development)
 install(EXPORT QvPluginBrowser NAMESPACE QvPluginBrowser:: FILE QvPluginBrowserTargets.cmake
   DESTINATION ${config_dir} COMPONENT development)
+
+# One package for who browses, one for who builds a host or a module.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_PACKAGE_CONTACT "The pluginBrowser maintainers <maintainers@localhost>")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_ALL runtime development)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME qvbrowse)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS frei0r-plugins)
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION
+"browser of plug-in tools and views
+The module pluginBrowser adds two schemes to the asset browser of a compositing
+application: its plug-in tools and its views. qvbrowse plays that application in
+a terminal, over the frei0r plug-ins of this machine or a catalogue.")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME qvbrowse-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION
+"headers and CMake package of qvbrowse
+What building a host or a module of one's own needs: the declarations of the
+host, the counted pointers and iterators, and the targets of
+find_package(QvPluginBrowser).")
+include(CPack)
+cpack_add_component(runtime)
+cpack_add_component(development DEPENDS runtime)
