@@ -25,9 +25,10 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS frei0r-plugins)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION
 "browser of plug-in tools and views
-The module pluginBrowser adds two schemes to the asset browser of a compositing
-application: its plug-in tools and its views. qvbrowse plays that application in
-a terminal, over the frei0r plug-ins of this machine or a catalogue.")
+The module pluginBrowser adds two schemes to the asset browser of a
+compositing application: its plug-in tools and its views. qvbrowse plays that
+application in a terminal, over the frei0r plug-ins of this machine or a
+catalogue.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME qvbrowse-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION

@@ -14,6 +14,7 @@ public:
   explicit ExBase(std::string what);
   ~ExBase() override;
 
+  /// The sentence.
   char const* what() const noexcept override;
 
 private:

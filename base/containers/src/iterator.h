@@ -39,11 +39,17 @@ public:
   virtual bool isEqual(IteratorImp const& other) const = 0;
   /// The element at the position, which must not be the end.
   virtual T const& item() const = 0;
+  /// The element at the position, to be changed; the position must not be the end.
   virtual T& item() = 0;
+  /// Goes to the first element, or to the end when there is none.
   virtual void first() = 0;
+  /// Goes to the last element, or to the end when there is none.
   virtual void last() = 0;
+  /// Goes behind the last element.
   virtual void end() = 0;
+  /// Whether the position is behind the last element.
   virtual bool atEnd() const = 0;
+  /// Whether the position is the first element, or the end when there is none.
   virtual bool atBegin() const = 0;
   /// @throws IteratorEx::ExOutOfRange at the end, and stays there.
   virtual void next() = 0;
@@ -74,35 +80,46 @@ public:
   Iterator& operator=(Iterator const& other) = default;
   virtual ~Iterator();
 
+  /// @{
+  /// The element at the position, which must not be the end.
   virtual T const* operator->() const { return std::addressof(engine().item()); }
   virtual T* operator->() { return std::addressof(exclusive().item()); }
   virtual T const& item() const { return engine().item(); }
   virtual T& item() { return exclusive().item(); }
   virtual T const& operator*() const { return engine().item(); }
   virtual T& operator*() { return exclusive().item(); }
+  /// @}
 
+  /// Goes to the first element.
   virtual Iterator& first() {
     exclusive().first();
     return *this;
   }
+  /// Goes to the last element.
   virtual Iterator& last() {
     exclusive().last();
     return *this;
   }
+  /// Goes behind the last element.
   virtual Iterator& end() {
     exclusive().end();
     return *this;
   }
+  /// Whether the position is behind the last element.
   virtual bool atEnd() const { return engine().atEnd(); }
+  /// Whether the position is the first element.
   virtual bool atBegin() const { return engine().atBegin(); }
+  /// @throws IteratorEx::ExOutOfRange at the end, and stays there.
   virtual Iterator& next() {
     exclusive().next();
     return *this;
   }
+  /// @throws IteratorEx::ExOutOfRange at the first element, and stays there.
   virtual Iterator& previous() {
     exclusive().previous();
     return *this;
   }
+  /// The number of elements, whatever the position.
   virtual int getCardinality() const { return engine().getCardinality(); }
 
   /// Returns an iterator at the old position.
@@ -111,6 +128,7 @@ public:
     next();
     return old;
   }
+  /// The same as next().
   virtual Iterator& operator++() { return next(); }
   /// Returns an iterator at the old position.
   virtual Iterator operator--(int) {
@@ -118,6 +136,7 @@ public:
     previous();
     return old;
   }
+  /// The same as previous().
   virtual Iterator& operator--() { return previous(); }
 
 private:

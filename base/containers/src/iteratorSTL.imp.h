@@ -11,6 +11,7 @@ namespace Qv {
 
 /// Yields elements as they are stored.
 struct QV_EXPORT IteratorAccessorPassthrough {
+  /// The element itself.
   template <class T> static T& access(T& element) { return element; }
 };
 
@@ -21,6 +22,7 @@ struct QV_EXPORT IteratorAccessorPassthrough {
 template <class Container, class StrongPtr, class Accessor>
 class QV_EXPORT IteratorSTL final : public IteratorImp<typename Container::value_type> {
 public:
+  /// What the engine yields.
   using Element = typename Container::value_type;
 
   /// Stands on the first element. @param container owns the container, which must not be null.
@@ -31,6 +33,7 @@ protected:
   ~IteratorSTL() override;
 
 public:
+  /// The containers are not compared. @throws std::bad_cast when `other` is of another class.
   bool isEqual(IteratorImp<Element> const& other) const override {
     auto const& engine = dynamic_cast<IteratorSTL const&>(other);
     if (atEnd() || engine.atEnd())

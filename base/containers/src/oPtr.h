@@ -35,6 +35,7 @@ public:
   /// The object. @throws ExNullPtr when there is none.
   T* operator->() const { return &**this; }
 
+  /// The object, which stays owned; null when there is none.
   T* get() const noexcept { return ptr_; }
   explicit operator bool() const noexcept { return ptr_ != nullptr; }
   /// Gives the object up to the caller, who deletes it.

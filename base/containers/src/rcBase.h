@@ -18,6 +18,7 @@ public:
   /// Returns the value before the change.
   T operator--(int) noexcept { return value_.fetch_sub(1, std::memory_order_seq_cst); }
 
+  /// The value at this moment.
   operator T() const noexcept { return value_.load(std::memory_order_seq_cst); }
 
 private:

@@ -32,6 +32,7 @@ protected:
   RCBasePtr& operator=(RCBasePtr const&) noexcept = default;
   ~RCBasePtr() = default;
 
+  /// Null when there is no object.
   T* ptr_;
 };
 

@@ -13,6 +13,7 @@ namespace Qv {
 /// pointee alive (the strong count).
 template <class Counter> class QV_EXPORT RCSWCount : public RCBase<Counter> {
 public:
+  /// Takes one strong reference.
   void acquireStrong() noexcept { strong_++; }
   /// Returns true for the call that gives the last strong reference back.
   bool releaseStrong() noexcept { return strong_-- == 1; }

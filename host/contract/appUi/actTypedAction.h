@@ -20,8 +20,11 @@ protected:
                   Vector<LiString>& options) const override;
 
 public:
+  /// Whether the action is offered for these; both may be null.
   virtual bool typedInputValid(First const& first, Second const& second) = 0;
+  /// Performs the action, also where it is not offered: it has to defend itself.
   virtual void typedPerformAction(First const& first, Second const& second) = 0;
+  /// Appends the options that the action offers; returns how many.
   virtual int typedEnumOptions(First const& first, Second const& second,
                                Vector<LiString>& options) const;
 

@@ -13,8 +13,11 @@ public:
   /// Flags of a column; the module passes the numbers 0 to 9.
   enum AttribAttributes : int {};
 
+  /// @{
+  /// The limits of a column without limits of its own, in pixels.
   static int const DEFAULT_MIN_WIDTH;
   static int const DEFAULT_MAX_WIDTH;
+  /// @}
 
   /// A column titled `name` that shows the attribute `attributeId` of each item.
   /// @param dataType BrBrowsable::ICON or BrBrowsable::STRING.
@@ -27,6 +30,7 @@ public:
 
   /// Sets the current width in pixels, kept within the limits; returns the width before.
   int setCurrentW(int width);
+  /// Shows or hides the column.
   void setDisplayed(bool displayed);
 
   LiString const& getName() const { return name_; }
@@ -38,8 +42,11 @@ public:
   std::array<AttribAttributes, 5> const& getAttributes() const { return attributes_; }
   bool isDisplayed() const { return displayed_; }
 
+  /// @{
+  /// The host's own; the module sets them.
   bool auxFlag = true;
   LiString auxText = "none";
+  /// @}
 
 protected:
   ~BrAttrib() override;

@@ -12,9 +12,11 @@ template <class Event> class CbHandler;
 class QV_EXPORT BrDetailView : public BrView {
 public:
   ~BrDetailView() override;
+  /// The module leaves this to the host.
   virtual void setFullScreenHandler(CbHandler<EvEvent>* handler);
   /// Adds the page with the information about the item.
   virtual void setDetailInfo() = 0;
+  /// The module leaves this to the host.
   virtual RCShdPtr<VpPlayer> const getMiniPlayer() const;
 
   /// Loads the resource table from `resourceFile`. @param name names the view.
@@ -26,6 +28,7 @@ public:
   /// Installs the pane that shows the item's icon.
   void setIconPane(RCShdPtr<UiPane> pane);
 
+  /// A page with its title.
   struct Page {
     LiString title;
     RCShdPtr<UiWidget> widget;

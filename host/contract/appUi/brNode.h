@@ -10,6 +10,7 @@ protected:
   ~BrNode() override;
 
 public:
+  /// The item, which may be null.
   virtual RCShdPtr<BrBrowsable> const& getBrowsable() const = 0;
 
   /// Wraps an item.

@@ -8,11 +8,13 @@ namespace Qv {
 /// The registry of the asset browser.
 class QV_EXPORT BrRegistry {
 public:
-  // Keys of the host's standard thumbnails.
+  /// @{
+  /// The key of a standard thumbnail of the host.
   static LiString const FolderThumbnail;
   static LiString const ToolThumbnail;
   static LiString const SuperToolThumbnail;
   static LiString const ViewThumbnail;
+  /// @}
 
   static BrRegistry& getInstance();
 
@@ -22,6 +24,7 @@ public:
   virtual void registerView(OPtr<BrView> view, LiString role) = 0;
   /// The image kept under `key`; null when there is none.
   virtual RCShdPtr<WsManagedImage> getThumbnail(LiString const& key, LiString const& variant) = 0;
+  /// Keeps the image, which may be null, under `key`: a browsable type string or a name.
   virtual void registerIcon(LiString const& key, RCShdPtr<WsManagedImage> const& image,
                             LiString const& variant) = 0;
 

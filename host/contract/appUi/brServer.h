@@ -11,6 +11,7 @@ class CmCommandStack;
 /// A scheme of the asset browser.
 class QV_EXPORT BrServer : public ObSubject<BrServer> {
 public:
+  /// The module does not look at it.
   enum FilterOptions : int {};
 
   ~BrServer() override;
@@ -18,16 +19,24 @@ public:
   virtual BrServer* clone() const = 0;
   /// The node for a scheme path.
   virtual RCShdPtr<BrNode> getNode(LiString const& path, LiString& message) = 0;
+  /// The node for an item of this server.
   virtual RCShdPtr<BrNode> getNodeFromBrowsable(RCShdPtr<BrBrowsable> const& browsable,
                                                 LiString& message) const;
+  /// The name under which the browser offers the scheme.
   virtual LiString getSchemeName() const = 0;
+  /// @{
+  /// The grammar of the scheme's paths; the module leaves it to the host.
   virtual LiString getRootPath(LiString const& path) const;
   virtual RCShdPtr<BrNode> getRootNode();
   virtual LiString getDefaultPath() const;
   virtual LiString resolvePath(LiString const& path) const;
   virtual char const* getPathSeparator() const;
   virtual std::string getPathInvalidChars() const;
+  /// @}
+  /// Whether the browser may watch the scheme for changes.
   virtual bool isObservable() const;
+  /// @{
+  /// The module leaves these to the host.
   virtual LiString getParentPath(LiString const& path) const;
   virtual bool supportsSequences() const;
   virtual bool updateSequenceInfo(RCShdPtr<BrNode> const& parent,
@@ -38,8 +47,11 @@ public:
   virtual void expandSequences(RCShdPtr<BrNode> const& parent,
                                Vector<RCShdPtr<BrNode>> const& sequences,
                                Vector<RCShdPtr<BrNode>>& nodes);
+  /// @}
   /// The server's own list, empty after construction: appending to it defines the columns.
   virtual RCShdPtr<BrAttribList> getAttributesList() const;
+  /// @{
+  /// The module leaves these to the host.
   virtual bool isDetailBelow() const;
   virtual void selected(RCShdPtr<RCBase<LkCounter<int>>> const& object);
   virtual void unselected(RCShdPtr<RCBase<LkCounter<int>>> const& object);
@@ -50,6 +62,7 @@ public:
   virtual RCShdPtr<CmCommandStack> getCommandStack() const;
   virtual void rescanPerformed();
   virtual bool isChildrenScanForeground() const;
+  /// @}
 
   BrServer();
 

@@ -15,19 +15,29 @@ public:
   static LiString DETAIL;
 
   ~BrView() override;
+  /// A new view of the same class, owned by the caller.
   virtual OPtrRet<BrView> clone() const = 0;
   /// Whether the view can show the item.
   virtual bool understands(RCShdPtr<BrBrowsable> const& item) = 0;
+  /// Shows the item, after buildUi(). @param selection what is selected in the browser.
   virtual void setContent(RCShdPtr<BrBrowsable> const& item,
                           RCShdPtr<SnSelection> const& selection) = 0;
+  /// Called when the host closes the view.
   virtual void externalClose() = 0;
+  /// Builds the widgets, once. @param selection what is selected in the browser.
   virtual void buildUi(RCShdPtr<SnSelection> const& selection) = 0;
+  /// @{
+  /// The module leaves these to the host.
   virtual bool setFullScreen();
   virtual void setFullScreenFocus();
+  /// @}
 
 protected:
+  /// @{
+  /// The module leaves these to the host.
   virtual void map();
   virtual void unMap();
+  /// @}
 
 private:
   virtual void mapCb(EvEvent& event);

@@ -14,6 +14,7 @@ public:
   UiResTable const* getResTable() const;
 
 protected:
+  /// What getResTable() answers.
   OPtr<UiResTable> resTable_;
 };
 

@@ -8,12 +8,14 @@ namespace Qv {
 /// A pane that other panes share.
 class QV_EXPORT UiSplitPane : public UiPane {
 public:
+  /// How the panes lie beside each other; the module passes 2.
   enum Orientation : int {};
 
   /// @param parent null for a pane of its own. @param resources null for the standard look.
   static RCShdPtr<UiSplitPane> create(RCShdPtr<UiContainer> const& parent, char const* name,
                                       UiResTable const* resources);
 
+  /// Says how the panes lie beside each other.
   void setOrientation(Orientation orientation);
   /// Shows these panes and no others. @param sizes one number a pane; null shares the room evenly.
   void setPanes(Vector<RCShdPtr<UiPane>> const& panes, Vector<float> const* sizes);

@@ -15,7 +15,9 @@ public:
   /// Null when there is none.
   static RCShdPtr<UiWorkspace> getCurrentWorkspace();
 
+  /// Opens the view of that name. @param flag the module passes true.
   virtual void openViewInWindow(std::string const& name, bool flag) = 0;
+  /// Opens the view of that name in a new window.
   virtual void openViewInNewWindow(std::string const& name) = 0;
 };
 

@@ -9,9 +9,12 @@ namespace Qv {
 class QV_EXPORT InBuildInfo {
 public:
   virtual ~InBuildInfo();
+  /// The label of the product that the library belongs to.
   virtual char const* getProductName() const = 0;
   virtual char const* getLibraryName() const = 0;
+  /// The name of the release.
   virtual char const* getReleaseName() const = 0;
+  /// Major and minor version, for instance "8.0".
   virtual char const* getVersionString() const = 0;
   /// Empty for a final release.
   virtual char const* getStageName() const = 0;

@@ -13,13 +13,23 @@ class InVariableBase;
 class QV_EXPORT InPackageInitBase {
 public:
   virtual ~InPackageInitBase();
+  /// @{
+  /// The module leaves these to the host.
   virtual void addDependency(InVariableBase* variable) = 0;
   virtual void removeDependency(InVariableBase* variable) = 0;
+  /// @}
+  /// The name, which lives as long as the package.
   virtual char const* getName() const = 0;
+  /// @{
+  /// Called when the host likes; the module does nothing.
   virtual void packageHookA() = 0;
   virtual void packageHookB() = 0;
+  /// @}
+  /// Called once, after the packages that this one needs. Whatever it throws passes.
   virtual void initialize() = 0;
+  /// Called before the package goes.
   virtual void uninitialize() = 0;
+  /// Stores the flag.
   virtual void setPackageFlag(bool flag) = 0;
 };
 

@@ -5,6 +5,7 @@
 
 namespace Qv {
 
+/// Splits paths.
 class QV_EXPORT OmUtil {
 public:
   /// The components of `path`, standing on the first. Leading, trailing and repeated separators

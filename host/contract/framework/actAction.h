@@ -18,6 +18,7 @@ protected:
   /// Whether the action is offered for these items.
   virtual bool inputValid(RCShdPtr<SnItem const> const& first,
                           RCShdPtr<SnItem const> const& second) const = 0;
+  /// Performs the action on these items.
   virtual void performAction(RCShdPtr<SnItem const> const& first,
                              RCShdPtr<SnItem const> const& second,
                              RCShdPtr<SnSelection> const& selection) const = 0;
@@ -26,10 +27,14 @@ protected:
                           Vector<LiString>& options) const = 0;
 
 public:
+  /// The name under which the action is registered.
   virtual LiString getName() = 0;
+  /// @{
+  /// The module leaves these to the host.
   virtual std::string getDisplayString() const;
   virtual std::string getGroup() const;
   virtual std::string getCompositeName() const;
+  /// @}
 
 protected:
   ActAction();

@@ -10,6 +10,7 @@ public:
   /// @param selection is shared.
   explicit DrCarrier(RCShdPtr<SnSelection> const& selection);
 
+  /// The selection under way, to be filled and read.
   RCShdPtr<SnSelection> getSelection();
 
 protected:

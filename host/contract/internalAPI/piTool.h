@@ -13,9 +13,13 @@ protected:
   ~PiTool() override;
 
 public:
+  /// Whether the tool can be used.
   virtual bool isActive() const = 0;
+  /// The first text of the detail page.
   virtual std::string getInfoText1() const = 0;
+  /// The second, longer text; also the first line of the tooltip.
   virtual std::string getInfoText2() const = 0;
+  /// The third text.
   virtual std::string getInfoText3() const = 0;
   /// The registry name, one whole path component.
   virtual std::string getName() const = 0;

@@ -20,6 +20,7 @@ public:
   getTools(PrdPredicate<RCShdPtr<PiTool const>> const& predicate, bool flag) = 0;
   /// The names of the categories, in the order in which they are shown.
   virtual Iterator<std::string> getCategories() = 0;
+  /// Whether it is the name of a super tool; any name may be asked about.
   virtual bool isSuperTool(std::string const& name) = 0;
 
 protected:

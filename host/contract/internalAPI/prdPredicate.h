@@ -17,7 +17,9 @@ public:
   virtual ~PrdPredicate();
   PrdPredicate& operator=(PrdPredicate const& other);
 
+  /// Holds where this one does not.
   PrdPredicate operator!() const;
+  /// Holds where both do.
   PrdPredicate operator&&(PrdPredicate const& other) const;
 
   /// Whether the predicate holds for `element`.

@@ -25,9 +25,11 @@ public:
   virtual bool isEqual(SnItem const& other) const = 0;
   /// Writes a description; the base class writes the item's class on a line of its own.
   virtual void dump(std::ostream& os) const;
+  /// Saves the state of the item.
   virtual RCShdPtr<Snapshot> snapshot() const;
 
 protected:
+  /// An item from the saved state.
   virtual RCShdPtr<SnItem> restore() const;
 
   explicit SnItem(RCShdPtr<SnParts> const& parts);

@@ -13,6 +13,7 @@ protected:
 public:
   /// In the order in which they were added.
   virtual Vector<RCShdPtr<SnItem const>> const& getItems() const = 0;
+  /// Lets go of all items.
   virtual void clear() = 0;
   /// Adds the item, of which the selection keeps its own reference.
   virtual void addItem(RCShdPtr<SnItem const> const& item) = 0;

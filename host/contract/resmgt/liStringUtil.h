@@ -6,6 +6,7 @@
 
 namespace Qv {
 
+/// Makes texts of numbers.
 class QV_EXPORT LiStringUtil {
 public:
   /// The decimal text of a number.

@@ -13,6 +13,7 @@ public:
 
   static UiColorRegistry& getInstance();
 
+  /// The colour of that name.
   CoRgbColorTyped<float> getColor(LiString const& name) const;
 };
 

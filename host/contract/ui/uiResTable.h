@@ -13,8 +13,10 @@ namespace Qv {
 /// What widgets are made from, by name, as a resource file describes it.
 class QV_EXPORT UiResTable {
 public:
+  /// What is made from a resource.
   enum Kind { Page, Label, TextEditor };
 
+  /// What a widget is made from.
   struct Resource {
     Kind kind;
     std::string text;

@@ -9,6 +9,7 @@ namespace Qv {
 /// A text on the screen.
 class QV_EXPORT UiString {
 public:
+  /// @param text is copied; it ends in a zero byte.
   void setString(char const* text);
   std::string const& getString() const { return text_; }
 

@@ -10,7 +10,9 @@ class QV_EXPORT UiTextEditor : public UiWidget {
 public:
   explicit UiTextEditor(std::string const& name);
 
+  /// Shows a text in place of the one before.
   void setString(LiString const& text);
+  /// Lets a person change the text, or not.
   void setEditable(bool editable);
 
   LiString const& getString() const { return text_; }

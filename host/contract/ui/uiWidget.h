@@ -18,12 +18,14 @@ public:
   /// The colour property of what lies behind the widget's content.
   static char const* const BackgroundColor;
 
+  /// Sets the colour of a property, for instance BackgroundColor.
   virtual void setColor(char const* property, CoRgbColorTyped<float> const& color);
 
   std::string const& getName() const { return name_; }
   /// In pixels; 0 leaves a side to the layout.
   int getWidth() const { return width_; }
   int getHeight() const { return height_; }
+  /// In pixels; 0 leaves a side to the layout.
   void setSize(int width, int height);
   /// The colours that have been set, by property.
   std::map<std::string, CoRgbColorTyped<float>> const& getColors() const { return colors_; }
@@ -36,6 +38,7 @@ protected:
 
   /// Takes a child in after the existing ones, out of the widget that held it before.
   void addChild(RCShdPtr<UiWidget> const& child);
+  /// Lets go of all children.
   void removeChildren() noexcept;
 
 private:

@@ -11,6 +11,7 @@ namespace Qv {
 /// Keeps the views that UiViewFactory tells of.
 class QV_EXPORT HostViewFactory {
 public:
+  /// A view of the application.
   struct View {
     std::string name;
     std::string label;

@@ -8,6 +8,7 @@ namespace Qv {
 /// Keeps what it was asked to open.
 class QV_EXPORT HostWorkspace final : public UiWorkspace {
 public:
+  /// One request to open a view.
   struct Request {
     std::string view;
     bool newWindow;

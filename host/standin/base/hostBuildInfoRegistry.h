@@ -10,6 +10,7 @@ class QV_EXPORT HostBuildInfoRegistry {
 public:
   static HostBuildInfoRegistry& getInstance();
 
+  /// Takes ownership; the result lives until clear().
   InBuildInfo const& add(OPtr<InBuildInfo> info);
   /// In order of registration.
   Vector<OPtr<InBuildInfo>> const& getInfos() const { return infos_; }

@@ -14,6 +14,7 @@ namespace Qv {
 /// made.
 class QV_EXPORT HostJournal {
 public:
+  /// One call: the operation, what it was about, and what else it said.
   struct Entry {
     std::string operation;
     std::string key;

@@ -23,6 +23,7 @@ public:
   void uninitializeAll() noexcept;
 
   void add(InPackageInit& package);
+  /// Forgets a package that is about to go.
   void remove(InPackageInit& package) noexcept;
 
   /// Keeps the exception that is being handled, if it is the first one.

@@ -7,6 +7,7 @@ namespace Qv {
 /// Owns the actions, and offers and performs them.
 class QV_EXPORT HostActRegistry final : public ActRegistry {
 public:
+  /// An action with the state that it was registered with.
   struct Entry {
     OPtr<ActAction> action;
     DynamicState state;
