@@ -7,6 +7,7 @@ namespace Qv {
 /// The registry of drag-and-drop handlers.
 class QV_EXPORT BrDndRegistry {
 public:
+  /// A handler with the prototype of the class that it is attached to.
   struct Entry {
     RCShdPtr<BrBrowsable> type;
     RCShdPtr<BrDndHandler> handler;

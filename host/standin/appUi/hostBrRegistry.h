@@ -9,6 +9,7 @@ namespace Qv {
 /// Keeps the schemes, views and icons, and loads the standard thumbnails.
 class QV_EXPORT HostBrRegistry final : public BrRegistry {
 public:
+  /// A view with its role.
   struct View {
     LiString role;
     OPtr<BrView> view;

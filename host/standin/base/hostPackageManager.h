@@ -22,6 +22,7 @@ public:
   /// Uninitialises in reverse order. The registries of the host let go of all they hold.
   void uninitializeAll() noexcept;
 
+  /// Takes in a package, which stays its library's.
   void add(InPackageInit& package);
   /// Forgets a package that is about to go.
   void remove(InPackageInit& package) noexcept;
