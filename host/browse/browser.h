@@ -8,6 +8,10 @@
 
 namespace Qv {
 
+inline constexpr BrBrowsable::FindFilter AllChildren{0};
+inline constexpr BrBrowsable::ChildSearchType AnyChildren{0};
+inline constexpr BrBrowsable::ChildSearchOption NoOption{0};
+
 /// The item at a path. @throws HostError when nobody registered the scheme or the scheme refuses
 /// the path.
 RCShdPtr<BrBrowsable> findItem(std::string const& scheme, std::string const& path);

@@ -14,11 +14,8 @@ namespace Qv {
 
 namespace {
 
-constexpr BrBrowsable::FindFilter AllChildren{0};
 constexpr BrBrowsable::FindFilter ItemsOnly{2};
-constexpr BrBrowsable::ChildSearchType AnyChildren{0};
 constexpr BrBrowsable::ChildSearchType ContainerChildren{1};
-constexpr BrBrowsable::ChildSearchOption NoOption{0};
 
 std::string dataTypeName(unsigned int dataType) {
   if (dataType == BrBrowsable::ICON)

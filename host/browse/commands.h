@@ -1,18 +1,22 @@
 #pragma once
 
+#include "toolSource.h"
+
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace Qv {
 
-/// What a person asked for beside the command itself.
+/// What a person asked for beside the command itself, and what a command cannot ask the host.
 struct Request {
   std::string scheme;
   std::string path;
   /// The items of a command that takes several.
   std::vector<std::string> paths;
   std::string action;
+  /// What to search for.
+  std::string text;
   /// Levels below the item; all without a value.
   std::optional<int> depth;
   bool unsorted = false;
@@ -21,6 +25,10 @@ struct Request {
   bool noWorkspace = false;
   /// The widgets as well.
   bool dump = false;
+  /// Try the plug-ins again that failed before.
+  bool retry = false;
+  /// The plug-in files of the tool sources, read before any command runs.
+  std::vector<ToolSource::Plugin> plugins;
   /// JSON for a machine instead of text for a person.
   bool json = false;
 };
@@ -33,8 +41,13 @@ void showTree(Request const& request);
 /// The trees of all schemes.
 void showTrees(Request const& request);
 void showItem(Request const& request);
+/// The items of a scheme whose name or label holds a text.
+/// @throws HostError after the empty result when there is none.
+void searchItems(Request const& request);
 void showStartup(Request const& request);
 void showPackages(Request const& request);
+/// The plug-in files, and why some of them are left out.
+void showPlugins(Request const& request);
 void listActions(Request const& request);
 void runAction(Request const& request);
 /// @throws HostError after the results when an item cannot be dragged.

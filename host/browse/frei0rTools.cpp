@@ -78,6 +78,9 @@ constexpr Named Categories[] = {{F0R_PLUGIN_TYPE_SOURCE, "Source"},
                                 {F0R_PLUGIN_TYPE_MIXER2, "Mixer2"},
                                 {F0R_PLUGIN_TYPE_MIXER3, "Mixer3"}};
 
+/// More than any plug-in has.
+constexpr int MostParameters = 1000;
+
 constexpr Named ParameterTypes[] = {{F0R_PARAM_BOOL, "bool"},
                                     {F0R_PARAM_DOUBLE, "double"},
                                     {F0R_PARAM_COLOR, "color"},
@@ -99,12 +102,40 @@ std::string describe(f0r_param_info_t const& parameter) {
                      explanation.empty() ? "" : ": ", explanation);
 }
 
-ToolSource::Tool readTool(fs::path const& file) {
+/// Absolute paths.
+std::vector<fs::path> findPlugins(fs::path const& directory) {
+  std::vector<fs::path> files;
+  try {
+    for (fs::directory_entry const& entry :
+         fs::directory_iterator(fs::absolute(directory).lexically_normal()))
+      if (entry.path().extension() == ".so")
+        files.push_back(entry.path());
+  } catch (fs::filesystem_error const& error) {
+    throw HostError(fmt::format("cannot read the plug-in directory \"{}\": {}", directory.string(),
+                                error.code().message()));
+  }
+  if (files.empty())
+    throw HostError(fmt::format("the plug-in directory \"{}\" holds no plug-in file (*.so)",
+                                directory.string()));
+  // Of one directory, the texts have the order of the paths, and are faster to compare.
+  std::sort(files.begin(), files.end(), [](fs::path const& left, fs::path const& right) {
+    return left.native() < right.native();
+  });
+  return files;
+}
+
+} // namespace
+
+ToolSource::Tool readFrei0rTool(fs::path const& file) {
   Plugin const plugin(file);
   f0r_plugin_info_t const info = plugin.getInfo();
   char const* const category = nameOf(info.plugin_type, Categories);
+  if (!info.name)
+    throw HostError("it gives no name");
   if (!category)
     throw HostError(fmt::format("its type {} is unknown", info.plugin_type));
+  if (info.num_params < 0 || info.num_params > MostParameters)
+    throw HostError(fmt::format("it claims to have {} parameters", info.num_params));
 
   ToolSource::Tool tool;
   tool.facts.name = file.stem();
@@ -118,36 +149,36 @@ ToolSource::Tool readTool(fs::path const& file) {
   return tool;
 }
 
-std::vector<fs::path> findPlugins(fs::path const& directory) {
-  std::vector<fs::path> files;
-  try {
-    for (fs::directory_entry const& entry : fs::directory_iterator(directory))
-      if (entry.path().extension() == ".so")
-        files.push_back(entry.path());
-  } catch (fs::filesystem_error const& error) {
-    throw HostError(fmt::format("cannot read the plug-in directory \"{}\": {}", directory.string(),
-                                error.code().message()));
-  }
-  if (files.empty())
-    throw HostError(fmt::format("the plug-in directory \"{}\" holds no plug-in file (*.so)",
-                                directory.string()));
-  std::sort(files.begin(), files.end());
-  return files;
-}
-
-} // namespace
-
-ToolSource readFrei0rTools(fs::path const& directory) {
+ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache, Frei0rScan const& scan) {
   ToolSource source;
   source.origin = directory;
+  std::vector<std::string> stamps;
+  std::vector<fs::path> unread;
   for (fs::path const& file : findPlugins(directory)) {
-    try {
-      source.tools.push_back(readTool(file));
-    } catch (HostError const& error) {
-      source.warnings.push_back(
-          fmt::format("the plug-in \"{}\" is left out: {}", file.string(), error.what()));
-    }
+    stamps.push_back(PluginCache::getStamp(file));
+    PluginReading const* const kept = cache.find(file, stamps.back());
+    bool const cached = kept && (kept->failure.empty() || !scan.retry);
+    source.plugins.push_back({file, "", cached});
+    if (!cached)
+      unread.push_back(file);
   }
+
+  std::vector<PluginReading> const readings = scanPlugins(unread, &readFrei0rTool, scan.limit);
+  auto next = readings.begin();
+  auto stamp = stamps.begin();
+  for (ToolSource::Plugin& plugin : source.plugins) {
+    if (!plugin.cached)
+      cache.keep(plugin.file, *stamp, *next++);
+    PluginReading const& reading = *cache.find(plugin.file, *stamp++);
+    plugin.failure = reading.failure;
+    if (!plugin.failure.empty())
+      continue;
+    source.tools.push_back(reading.tool);
+    source.tools.back().facts.name = plugin.file.stem();
+  }
+  if (!unread.empty())
+    cache.save();
+
   for (Named const& category : Categories)
     if (std::any_of(source.tools.begin(), source.tools.end(), [&](ToolSource::Tool const& tool) {
           return tool.facts.category == category.name;

@@ -1,19 +1,31 @@
 #pragma once
 
-#include "toolSource.h"
-
-#include <filesystem>
+#include "pluginCache.h"
 
 namespace Qv {
 
 /// Where distributions install frei0r plug-ins.
 inline constexpr char const* frei0rDirectory = "/usr/lib/frei0r-1";
 
+/// How a directory of plug-ins is read.
+struct Frei0rScan {
+  /// Whether a plug-in that failed before is tried again.
+  bool retry = false;
+  /// How long one plug-in may take to answer.
+  std::chrono::milliseconds limit = PluginTimeLimit;
+};
+
 /// Reads the frei0r plug-ins of a directory, its *.so files, in order of their names. A plug-in is
 /// a tool: it is named after its file, its category is its type, its texts are its own name, its
-/// explanation, and its author with its version, and its tooltip lists its parameters. Each plug-in
-/// is loaded, asked and unloaded. One that cannot be read becomes a warning.
+/// explanation, and its author with its version, and its tooltip lists its parameters. What the
+/// cache holds is not read again; the rest is read as scanPlugins() does and goes into the cache,
+/// which is saved. A plug-in that cannot be read is left out of the tools.
 /// @throws HostError when there is no such directory or no *.so file in it.
-ToolSource readFrei0rTools(std::filesystem::path const& directory);
+ToolSource readFrei0rTools(std::filesystem::path const& directory, PluginCache& cache,
+                           Frei0rScan const& scan = {});
+
+/// Loads one plug-in into this process, asks it and unloads it.
+/// @throws HostError with nothing but the reason when it is none or does not say what it must.
+ToolSource::Tool readFrei0rTool(std::filesystem::path const& file);
 
 } // namespace Qv

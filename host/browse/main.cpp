@@ -5,6 +5,7 @@
 #include "hostModule.h"
 #include "hostResources.h"
 #include "output.h"
+#include "progress.h"
 #include "toolCatalogue.h"
 
 #include <CLI/CLI.hpp>
@@ -22,6 +23,8 @@ namespace {
 constexpr int Success = 0;
 constexpr int Failure = 1;
 constexpr int Usage = 2;
+/// Done, but for plug-ins that could not be read.
+constexpr int Partial = 3;
 
 /// In the folder `share` beside that of this program.
 fs::path resourceDirectory() {
@@ -42,6 +45,7 @@ struct CommandLine {
   void (*command)(Request const&) = &showTrees;
   /// Whether the command goes on with further paths.
   bool takesPaths = false;
+  bool paged = true;
 };
 
 void declare(CLI::App& app, CommandLine& line) {
@@ -50,12 +54,16 @@ void declare(CLI::App& app, CommandLine& line) {
   app.fallthrough();
   app.footer(
       "Without a command, the trees of all schemes are shown. --module and --tools may stand "
-      "after a command as well.");
+      "after a command as well.\n"
+      "Exit status: 0 when all is well; 1 when the command failed or "
+      "found nothing; 2 when the command line is "
+      "wrong; 3 when the command is done, but plug-ins that could not be read are left out.");
   app.add_option("--module", line.module, "The module file to load")->type_name("FILE");
   app.add_option("--tools", line.tools,
                  "Where the tools come from, repeatable: frei0r, frei0r:DIR or a JSON catalogue")
       ->type_name("SOURCE")
       ->allow_extra_args(false);
+  app.add_flag("!--no-pager", line.paged, "Never show the output through $PAGER");
   app.require_subcommand(0, 1);
   // An option of several values would take a path in square brackets for a list.
   app.allow_extras();
@@ -94,6 +102,12 @@ void declare(CLI::App& app, CommandLine& line) {
       ->option_text("N");
 
   addItem(addCommand("show", "Show one item", &showItem), true);
+  CLI::App* const search = addCommand(
+      "search", "Find the items of a scheme whose name or label holds a text", &searchItems);
+  search->add_option("SCHEME", request.scheme, "The name of the scheme")->required();
+  search->add_option("TEXT", request.text, "The text, in upper or lower case")
+      ->required()
+      ->check([](std::string const& text) { return text.empty() ? "the text is empty" : ""; });
   addCommand("startup", "Show what the module did to the host while it started", &showStartup);
 
   addItem(addCommand("actions", "List the actions for an item", &listActions), false);
@@ -116,6 +130,10 @@ void declare(CLI::App& app, CommandLine& line) {
       addCommand("detail", "Show items on one detail page, one after the other", &showDetail);
   addItems(detail);
   detail->add_flag("--dump", request.dump, "Show the widgets as well");
+
+  CLI::App* const plugins =
+      addCommand("plugins", "Show the plug-in files, and why some are left out", &showPlugins);
+  plugins->add_flag("--retry", request.retry, "Try those again that failed before");
 
   addCommand("packages", "Show the packages and their build information", &showPackages);
 }
@@ -143,13 +161,16 @@ ToolSource ownViews() {
 }
 
 /// Reads all sources before the first one is registered.
-void registerTools(std::vector<std::string> const& names) {
+void registerTools(CommandLine& line) {
   std::vector<ToolSource> sources;
-  for (std::string const& name : names) {
+  PluginCache cache(PluginCache::getUserFile());
+  Frei0rScan const scan = {.retry = line.request.retry};
+  for (std::string const& name : line.tools) {
+    sayProgress("reading tools");
     if (name == "frei0r")
-      sources.push_back(readFrei0rTools(frei0rDirectory));
+      sources.push_back(readFrei0rTools(frei0rDirectory, cache, scan));
     else if (name.starts_with("frei0r:"))
-      sources.push_back(readFrei0rTools(name.substr(std::strlen("frei0r:"))));
+      sources.push_back(readFrei0rTools(name.substr(std::strlen("frei0r:")), cache, scan));
     else
       sources.push_back(readToolCatalogue(name));
   }
@@ -158,13 +179,26 @@ void registerTools(std::vector<std::string> const& names) {
   });
   if (!viewsGiven)
     sources.push_back(ownViews());
+  std::vector<ToolSource::Plugin>& plugins = line.request.plugins;
   for (ToolSource const& source : sources)
-    for (std::string const& warning : source.warnings)
-      printProblem(warning);
+    plugins.insert(plugins.end(), source.plugins.begin(), source.plugins.end());
   registerToolSources(sources);
 }
 
-void run(CommandLine& line) {
+/// Names each plug-in that is left out. @returns whether there is one.
+bool reportFailures(std::vector<ToolSource::Plugin> const& plugins) {
+  bool failed = false;
+  for (auto const& [file, failure, cached] : plugins) {
+    if (failure.empty())
+      continue;
+    failed = true;
+    printProblem(fmt::format("the plug-in \"{}\" is left out: {}{}", file.string(), failure,
+                             cached ? "; the command \"plugins --retry\" tries it again" : ""));
+  }
+  return failed;
+}
+
+int run(CommandLine& line) {
   fs::path const resources = resourceDirectory();
   HostResources::getInstance().setDirectory(resources);
   if (line.tools.empty()) {
@@ -172,14 +206,23 @@ void run(CommandLine& line) {
     bool const none = fs::is_empty(frei0rDirectory, error) || error;
     line.tools = {none ? resources / "sampleCatalogue.json" : "frei0r"};
   }
-  registerTools(line.tools);
+  Progress const progress;
+  registerTools(line);
+  bool const partial = reportFailures(line.request.plugins);
 
   HostJournal::getInstance().start();
   HostModule const module(line.module);
   HostJournal::getInstance().stop();
 
+  sayProgress("listing");
+  std::optional<Paging> paging;
+  if (line.paged && !line.request.json)
+    paging.emplace();
   line.command(line.request);
   flushOutput();
+  if (paging)
+    paging->end();
+  return partial ? Partial : Success;
 }
 
 } // namespace
@@ -203,8 +246,7 @@ int main(int argc, char** argv) {
       flushOutput();
       return status;
     }
-    run(line);
-    return Success;
+    return run(line);
   } catch (std::exception const& error) {
     printProblem(error.what());
     return Failure;

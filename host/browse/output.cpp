@@ -2,13 +2,20 @@
 
 #include "hostError.h"
 #include "hostImage.h"
+#include "progress.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
+#include <utf8proc.h>
+#include <utility>
 
 namespace Qv {
 
@@ -20,11 +27,80 @@ std::size_t width(std::string const& text) {
                                    [](unsigned char byte) { return (byte & 0xC0) != 0x80; }));
 }
 
+/// Whether stdout is a terminal; it was one when it goes through a pager.
+bool outputIsTerminal() {
+  static bool const terminal = isatty(STDOUT_FILENO);
+  return terminal;
+}
+
+/// With which the shell tells that there is no such program.
+constexpr int NotFound = 127;
+
+bool pagerWanted = false;
+/// The pager's input; null while there is no pager.
+FILE* pager = nullptr;
+
+void startPager() {
+  char const* const named = std::getenv("PAGER");
+  std::string const command =
+      named ? named : "if command -v less >/dev/null; then exec less; else exec cat; fi";
+  if (command.empty())
+    return;
+  // Ends by itself when all fits on the screen, lets colours through and leaves them there.
+  setenv("LESS", "FRX", 0);
+  pager = popen(command.c_str(), "we");
+  if (!pager)
+    return;
+  dup2(fileno(pager), STDOUT_FILENO);
+  // Whoever leaves the pager early ends the output and nothing else.
+  std::signal(SIGPIPE, SIG_IGN);
+  // The terminal's interrupt is for the pager, which may go on.
+  std::signal(SIGINT, SIG_IGN);
+  std::signal(SIGQUIT, SIG_IGN);
+}
+
+/// Makes way for the output when the first of it comes, so that no pager is started for nothing.
+void beginOutput() {
+  static bool begun = false;
+  if (std::exchange(begun, true))
+    return;
+  outputIsTerminal();
+  struct stat facts = {};
+  // A file leaves the terminal to the progress line.
+  if (fstat(STDOUT_FILENO, &facts) != 0 || !S_ISREG(facts.st_mode))
+    stopProgress();
+  if (pagerWanted)
+    startPager();
+}
+
+/// Waits for the pager, if there is one. @returns the status with which it ended.
+int endPager() {
+  if (!pager)
+    return 0;
+  std::fflush(stdout);
+  // Only without this copy can it come to the end of its input.
+  close(STDOUT_FILENO);
+  int const status = pclose(pager);
+  pager = nullptr;
+  return status;
+}
+
+/// Lets all output go nowhere when the pager was left. @throws HostError otherwise.
+void refuseWriting() {
+  if (!pager || errno != EPIPE)
+    throw HostError(fmt::format("cannot write the result: {}", std::strerror(errno)));
+  int const nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+  dup2(nowhere, STDOUT_FILENO);
+  close(nowhere);
+  std::clearerr(stdout);
+}
+
 } // namespace
 
 void writeText(std::string const& text) {
+  beginOutput();
   if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
-    throw HostError(fmt::format("cannot write the result: {}", std::strerror(errno)));
+    refuseWriting();
 }
 
 Json describeImage(RCShdPtr<WsManagedImage> const& image) {
@@ -49,14 +125,28 @@ void printJson(Json const& json) {
 
 void flushOutput() {
   if (std::fflush(stdout) != 0)
-    throw HostError(fmt::format("cannot write the result: {}", std::strerror(errno)));
+    refuseWriting();
 }
 
 void printProblem(std::string const& problem) {
+  eraseProgress();
   std::fputs(fmt::format("qvbrowse: {}\n", printable(problem)).c_str(), stderr);
 }
 
-Terminal::Terminal() : colours_(isatty(STDOUT_FILENO) && !std::getenv("NO_COLOR")) {}
+Paging::Paging() { pagerWanted = outputIsTerminal(); }
+
+Paging::~Paging() { endPager(); }
+
+void Paging::end() {
+  flushOutput();
+  int const status = endPager();
+  if (WIFEXITED(status) && WEXITSTATUS(status) == NotFound)
+    throw HostError(
+        fmt::format("cannot show the result: there is no pager \"{}\", which PAGER names",
+                    std::getenv("PAGER")));
+}
+
+Terminal::Terminal() : colours_(outputIsTerminal() && !std::getenv("NO_COLOR")) {}
 
 std::string Terminal::styled(fmt::text_style style, std::string const& text) const {
   return colours_ ? fmt::format(style, "{}", text) : text;
@@ -87,19 +177,21 @@ char const* yesOrNo(bool value) { return value ? "yes" : "no"; }
 
 std::string printable(std::string const& text) {
   std::string result;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    char const character = text[at];
-    auto const byte = static_cast<unsigned char>(character);
-    auto const next = static_cast<unsigned char>(at + 1 < text.size() ? text[at + 1] : 0);
-    // The control characters above ASCII are two bytes of UTF-8.
-    if (byte == 0xC2 && next >= 0x80 && next < 0xA0)
-      result += fmt::format("\\x{:02x}", text[++at] & 0xFF);
-    else if (character == '\n')
+  for (std::size_t at = 0; at < text.size();) {
+    utf8proc_int32_t character = 0;
+    utf8proc_ssize_t const length =
+        utf8proc_iterate(reinterpret_cast<utf8proc_uint8_t const*>(text.data() + at),
+                         utf8proc_ssize_t(text.size() - at), &character);
+    if (length < 0)
+      character = static_cast<unsigned char>(text[at]);
+    std::size_t const size = length < 0 ? 1 : std::size_t(length);
+    if (character == '\n')
       result += "\\n";
-    else if (byte < 0x20 || byte == 0x7F)
-      result += fmt::format("\\x{:02x}", byte);
+    else if (length < 0 || utf8proc_category(character) == UTF8PROC_CATEGORY_CC)
+      result += fmt::format("\\x{:02x}", character);
     else
-      result += character;
+      result.append(text, at, size);
+    at += size;
   }
   return result;
 }

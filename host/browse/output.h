@@ -30,6 +30,19 @@ void printJson(Json const& json);
 /// Hands all that was printed to whoever reads it. @throws HostError when that fails.
 void flushOutput();
 
+/// While it lives, what is written on a terminal goes through a pager: the one that PAGER names,
+/// none when it is empty, and less when it is not set. One at a time.
+class Paging {
+public:
+  Paging();
+  ~Paging();
+  Paging(Paging const&) = delete;
+  Paging& operator=(Paging const&) = delete;
+
+  /// Waits until the person has left the pager. @throws HostError when there is no such pager.
+  void end();
+};
+
 /// Says on stderr what went wrong; what cannot be written there is lost.
 void printProblem(std::string const& problem);
 
@@ -52,7 +65,8 @@ private:
 
 char const* yesOrNo(bool value);
 
-/// The text with control characters as escapes, so that no name can steer the terminal.
+/// The text with escapes for control characters, so that no name can steer the terminal, and for
+/// bytes that are no UTF-8.
 std::string printable(std::string const& text);
 
 } // namespace Qv

@@ -2,6 +2,7 @@
 
 #include "hostTool.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -26,12 +27,22 @@ struct ToolSource {
     std::string tooltip;
   };
 
+  /// A plug-in file that was read, or not.
+  struct Plugin {
+    /// An absolute path.
+    std::filesystem::path file;
+    /// Why it is left out; empty when it is not.
+    std::string failure;
+    /// Whether an earlier run found out.
+    bool cached;
+  };
+
   /// In the order in which they are listed; the same name may come again.
   std::vector<std::string> categories;
   std::vector<Tool> tools;
   std::vector<View> views;
-  /// What was left out and why, one sentence each.
-  std::vector<std::string> warnings;
+  /// Where the tools come from; none for a catalogue.
+  std::vector<Plugin> plugins;
 };
 
 /// Adds the categories and tools to the host's tool registry, the views to its view factory, and

@@ -74,7 +74,11 @@ void expectFailure(ProgramRun const& run, Strings const& reasons) {
 /// Runs the program in a directory that holds a catalogue.
 class QvBrowse : public testing::Test, protected TemporaryDirectory {
 protected:
-  QvBrowse() { write("catalogue.json", Catalogue); }
+  QvBrowse() {
+    write("catalogue.json", Catalogue);
+    setenv("XDG_CACHE_HOME", (directory_ / "cache").c_str(), 1);
+    setenv("PAGER", "cat", 1);
+  }
 
   /// Has the shell run a command in the directory.
   ProgramRun runInShell(std::string const& command) const {
@@ -93,6 +97,11 @@ protected:
   json browseJson(std::string const& arguments) const {
     return json::parse(result(browse("--json " + arguments)));
   }
+  /// Runs it on a terminal, to which both of its outputs go.
+  ProgramRun runOnTerminal(std::string const& environment, std::string const& arguments) const {
+    return runInShell("script -qec '" + std::string("env ") + environment + " " +
+                      commandLine(arguments) + "' /dev/null");
+  }
   void install(char const* plugin, char const* name) const {
     std::filesystem::create_directories(directory_ / "plugins");
     std::filesystem::copy_file(plugin, directory_ / "plugins" / name);
@@ -103,8 +112,9 @@ class QvBrowseCall : public QvBrowse {};
 
 TEST_F(QvBrowseCall, ExplainsItself) {
   std::string const overview = result(run("--help"));
-  for (std::string const command : {"tree", "ls", "show", "schemes", "startup", "packages",
-                                    "actions", "run-action", "drag", "detail"}) {
+  for (std::string const command :
+       {"tree", "ls", "show", "schemes", "search", "startup", "packages", "plugins", "actions",
+        "run-action", "drag", "detail"}) {
     EXPECT_THAT(overview, HasSubstr("\n  " + command + " "));
     EXPECT_THAT(result(run(command + " --help")),
                 testing::AllOf(HasSubstr("Usage: qvbrowse " + command + " "), HasSubstr("--json")));
@@ -127,9 +137,10 @@ TEST_F(QvBrowseCall, WrongUseHasItsOwnStatus) {
     expectUsageError(lastIsWrong, lastIsWrong.substr(lastIsWrong.rfind(' ') + 1));
   expectUsageError("surplus drag views plan", "surplus");
   for (char const* const tooShort :
-       {"ls", "show tools", "drag tools", "detail tools", "run-action Open", "--tools", "--module",
-        "tree tools --depth"})
+       {"ls", "show tools", "drag tools", "detail tools", "run-action Open", "search tools",
+        "--tools", "--module", "tree tools --depth"})
     expectUsageError(tooShort, "required");
+  expectUsageError("search tools \"\"", "the text is empty");
 }
 
 TEST_F(QvBrowseCall, OptionsMayStandAfterTheCommand) {
@@ -197,14 +208,38 @@ TEST_F(QvBrowseSources, BringViewsOrGetTheOwnOnes) {
 }
 
 TEST_F(QvBrowseSources, LeaveOutPluginsThatCannotBeRead) {
-  install(CLOUDSPLUGIN_FILE, "clouds.so");
+  install(RENAMEPLUGIN_FILE, "\xe9.so");
+  install(PRINTPLUGIN_FILE, "print.so");
+  install(RECOVERPLUGIN_FILE, "recover.so");
   write("plugins/text\n.so", "no plug-in");
-  ProgramRun const shown = run("--tools frei0r:plugins ls tools");
-  EXPECT_EQ(shown.status, 0);
-  EXPECT_EQ(shown.out, "Type           Tool\n"
-                       "Tool Category  Source\n");
-  EXPECT_THAT(shown.err,
-              MatchesRegex("qvbrowse: [^\n]*\"plugins/text\\\\n.so\"[^\n]*file too short\n"));
+  unsetenv("QV_MENDED");
+  std::string const source = "--tools frei0r:plugins ";
+  for (std::string const hint : {"", "; the command \"plugins --retry\" tries it again"}) {
+    ProgramRun const shown = run(source + "ls tools Filter");
+    EXPECT_EQ(shown.status, 3);
+    EXPECT_EQ(shown.out, "Type  Tool\nTool  print\nTool  \\xe9\n");
+    std::string const plugins = "qvbrowse: the plug-in \"" + directory_.string() + "/plugins/";
+    EXPECT_EQ(shown.err, plugins + "recover.so\" is left out: it crashed with SIGABRT (Aborted)" +
+                             hint + "\n" + plugins + "text\\n.so\" is left out: file too short" +
+                             hint + "\n");
+  }
+  EXPECT_EQ(json::parse(run(source + "detail tools Filter/\xe9 --json").out)
+                .at("/0/pages/0/fields/0/value"_json_pointer),
+            "caf\ufffd");
+
+  setenv("QV_MENDED", "yes", 1);
+  EXPECT_THAT(run(source + "plugins").out, HasSubstr("failed  yes"));
+  ProgramRun const retried = run(source + "plugins --retry --json");
+  EXPECT_EQ(retried.status, 3);
+  json const plugins = json::parse(retried.out);
+  EXPECT_EQ(all<bool>(plugins, "cached"), (std::vector{true, false, false, true}));
+  EXPECT_EQ(all<bool>(plugins, "read"), (std::vector{true, true, false, true}));
+  EXPECT_EQ(plugins[1]["failure"], nullptr);
+  EXPECT_EQ(plugins[2]["failure"], "file too short");
+  // Without a cache directory it is a first run each time.
+  setenv("XDG_CACHE_HOME", "/dev/null", 1);
+  EXPECT_EQ(run(source + "plugins --retry --json").status, 3);
+  EXPECT_THAT(run(source + "ls tools").err, Not(HasSubstr("--retry")));
 }
 
 class QvBrowseJson : public QvBrowse {};
@@ -350,6 +385,30 @@ TEST_F(QvBrowseJson, ShowsItemsOnOneDetailPage) {
   EXPECT_EQ(widgets.at(1).at("class"), "Qv::UiSplitPane");
 }
 
+TEST_F(QvBrowseJson, FindsItemsByNameAndLabel) {
+  write("more.json", R"({"tools": [
+      {"name": "sawmill", "category": "Wood"}, {"name": "Chainsaw", "category": "GRÖSSE"},
+      {"name": "sa\u0308ge", "category": "Wood"}, {"name": "SAW", "category": "Wood"}]})");
+  for (auto const& [arguments, paths] :
+       Cases{{"tools saw", {"Wood/saw", "Wood/SAW", "Wood/sawmill", "GRÖSSE/Chainsaw"}},
+             {"tools größe", {"Wood/größe", "GRÖSSE"}},
+             {"tools SÄGE", {"Wood/sa\u0308ge"}},
+             {"tools kit", {"Kit", "Kit/Kit"}},
+             {"tools wood", {"Wood"}},
+             {"views plan", {"plan", "übersichtsplan"}},
+             {"views ÜBER", {"übersichtsplan"}},
+             {"views e", {"plan", "übersichtsplan"}}})
+    EXPECT_EQ(all(browseJson("--tools more.json search " + arguments), "path"), paths) << arguments;
+  EXPECT_EQ(browseJson("search views \"SITE P\""),
+            R"([{"name": "Site plan", "type": "View", "path": "plan", "match": "prefix"}])"_json);
+
+  ProgramRun const nothing = browse("--json search tools hammer");
+  EXPECT_EQ(nothing.status, 1);
+  EXPECT_EQ(nothing.out, "[]\n");
+  EXPECT_THAT(nothing.err, MatchesRegex("qvbrowse: [^\n]*\"tools\"[^\n]*\"hammer\"[^\n]*\n"));
+  expectFailure(browse("search tools hammer"), {"\"hammer\""});
+}
+
 class QvBrowseText : public QvBrowse {};
 
 TEST_F(QvBrowseText, DrawsTreesAndAlignsTables) {
@@ -401,23 +460,57 @@ TEST_F(QvBrowseText, EscapesControlCharacters) {
 }
 
 TEST_F(QvBrowseText, IsColouredOnATerminalOnly) {
-  auto const runOnTerminal = [&](std::string const& environment, std::string const& arguments) {
-    return result(
-        runInShell("script -qec '" + environment + " " + commandLine(arguments) + "' /dev/null"));
-  };
   for (std::string arguments :
        {"tree tools", "ls tools", "show tools Wood/saw", "schemes", "detail tools Wood/saw"}) {
     SCOPED_TRACE(arguments);
     arguments.insert(0, "--tools catalogue.json ");
     std::string const piped = result(run(arguments));
     EXPECT_THAT(piped, Not(HasSubstr("\x1b")));
-    std::string const coloured = runOnTerminal("env -u NO_COLOR", arguments);
+    std::string const coloured = result(runOnTerminal("-u NO_COLOR", arguments));
     EXPECT_THAT(coloured, HasSubstr("\x1b["));
     EXPECT_EQ(withoutStyles(coloured), piped);
-    for (std::string const& plain : {runOnTerminal("NO_COLOR=1", arguments),
-                                     runOnTerminal("env -u NO_COLOR", arguments + " --json")})
-      EXPECT_THAT(plain, Not(HasSubstr("\x1b")));
+    for (ProgramRun const& plain : {runOnTerminal("NO_COLOR=1", arguments),
+                                    runOnTerminal("-u NO_COLOR", arguments + " --json")})
+      EXPECT_THAT(result(plain), Not(HasSubstr("\x1b")));
   }
+}
+
+TEST_F(QvBrowseText, GoesThroughThePagerOnATerminal) {
+  auto const runWithPager = [&](std::string const& pager, std::string const& arguments) {
+    return runOnTerminal("PAGER=\"" + pager + "\"", "--tools catalogue.json " + arguments);
+  };
+  std::string const listed = result(browse("ls tools Wood"));
+  std::string const paged = result(runWithPager("sed s/^/paged:/", "ls tools Wood"));
+  EXPECT_EQ(withoutStyles(paged), "paged:Type  Tool\npaged:Tool  größe\npaged:Tool  saw\n");
+  EXPECT_THAT(paged, HasSubstr("\x1b["));
+  for (auto const& [pager, arguments] :
+       {std::pair{"", "ls tools Wood"}, {"sed s/^/paged:/", "ls tools Wood --no-pager"}})
+    EXPECT_EQ(withoutStyles(result(runWithPager(pager, arguments))), listed);
+  EXPECT_THAT(runWithPager("sed s/^/paged:/", "ls tools --json").out, Not(HasSubstr("paged")));
+
+  // Whoever leaves the pager early is left alone, and the status stays that of the command.
+  write("many.json",
+        json{{"tools", json::array()}, {"categories", std::vector(100000, std::string("category"))}}
+            .dump());
+  EXPECT_EQ(withoutStyles(result(runWithPager("head -1", "--tools many.json tree tools"))),
+            "Tools  [Tools Folder]\n");
+  EXPECT_EQ(runWithPager("true", "drag tools Wood").status, 1);
+
+  ProgramRun const missing = runWithPager("no-such-pager", "ls tools");
+  EXPECT_EQ(missing.status, 1);
+  EXPECT_THAT(missing.out, HasSubstr("\"no-such-pager\""));
+}
+
+TEST_F(QvBrowseText, TellsWhatIsUnderWayOnATerminalOnly) {
+  install(SLEEPPLUGIN_FILE, "sleep.so");
+  std::string const arguments = "--tools frei0r:plugins ls tools Filter";
+  std::string const shown = result(runOnTerminal("-u NO_COLOR", arguments));
+  EXPECT_THAT(shown, HasSubstr("\rreading plug-ins, 0 of 1 ...\x1b[K"));
+  EXPECT_THAT(shown, testing::EndsWith(
+                         "\r\x1b[K\x1b[1mType\x1b[0m  \x1b[1mTool\x1b[0m\r\nTool  sleep\r\n"));
+  EXPECT_EQ(result(runOnTerminal("-u NO_COLOR", arguments)).find("reading"), std::string::npos);
+  std::filesystem::remove_all(directory_ / "cache");
+  EXPECT_EQ(result(run(arguments)), "Type  Tool\nTool  sleep\n");
 }
 
 } // namespace
