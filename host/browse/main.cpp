@@ -48,9 +48,27 @@ struct CommandLine {
   bool paged = true;
 };
 
+bool isOption(std::string const& argument) { return argument.size() > 1 && argument[0] == '-'; }
+
+/// @throws CLI::ParseError that names the first of the arguments that nothing takes.
+[[noreturn]] void refuseArguments(CLI::App const& app, std::vector<std::string> const& arguments) {
+  auto const option = std::find_if(arguments.begin(), arguments.end(), isOption);
+  std::string reason;
+  if (option != arguments.end())
+    reason = fmt::format("there is no option \"{}\" here", *option);
+  else if (app.get_subcommands().empty())
+    reason = fmt::format("there is no command \"{}\"", arguments.front());
+  else
+    reason = fmt::format("the argument \"{}\" is one too many", arguments.front());
+  throw CLI::ParseError(reason, CLI::ExitCodes::ExtrasError);
+}
+
 void declare(CLI::App& app, CommandLine& line) {
   Request& request = line.request;
   app.set_version_flag("--version", "qvbrowse " QV_VERSION);
+  app.failure_message([](CLI::App const*, CLI::Error const& error) {
+    return fmt::format("qvbrowse: {}; --help tells what there is\n", printable(error.what()));
+  });
   app.fallthrough();
   app.footer(
       "Without a command, the trees of all schemes are shown. --module and --tools may stand "
@@ -107,7 +125,9 @@ void declare(CLI::App& app, CommandLine& line) {
   search->add_option("SCHEME", request.scheme, "The name of the scheme")->required();
   search->add_option("TEXT", request.text, "The text, in upper or lower case")
       ->required()
-      ->check([](std::string const& text) { return text.empty() ? "the text is empty" : ""; });
+      ->check([](std::string const& text) {
+        return text.empty() ? "the text to search for is empty" : "";
+      });
   addCommand("startup", "Show what the module did to the host while it started", &showStartup);
 
   addItem(addCommand("actions", "List the actions for an item", &listActions), false);
@@ -121,7 +141,7 @@ void declare(CLI::App& app, CommandLine& line) {
         ->required();
     subcommand->preparse_callback([&app, &line](std::size_t) {
       if (app.remaining_size() > 0)
-        throw CLI::ExtrasError(app.remaining());
+        refuseArguments(app, app.remaining());
       line.takesPaths = true;
     });
   };
@@ -138,14 +158,12 @@ void declare(CLI::App& app, CommandLine& line) {
   addCommand("packages", "Show the packages and their build information", &showPackages);
 }
 
-/// Takes the arguments that no option took as further paths. @throws CLI::ExtrasError.
+/// Takes the arguments that no option took as further paths. @throws CLI::ParseError.
 void takePaths(CLI::App const& app, CommandLine& line) {
   std::vector<std::string> const rest = app.remaining();
-  bool const option = std::any_of(rest.begin(), rest.end(), [](std::string const& argument) {
-    return argument.size() > 1 && argument[0] == '-';
-  });
+  bool const option = std::any_of(rest.begin(), rest.end(), isOption);
   if (!rest.empty() && (option || !line.takesPaths))
-    throw CLI::ExtrasError(rest);
+    refuseArguments(app, rest);
   line.request.paths = {line.request.path};
   line.request.paths.insert(line.request.paths.end(), rest.begin(), rest.end());
 }

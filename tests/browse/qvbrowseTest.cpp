@@ -128,7 +128,7 @@ TEST_F(QvBrowseCall, WrongUseHasItsOwnStatus) {
     ProgramRun const wrong = run(arguments);
     EXPECT_EQ(wrong.status, 2);
     EXPECT_EQ(wrong.out, "");
-    EXPECT_THAT(wrong.err, HasSubstr(fault));
+    EXPECT_THAT(wrong.err, testing::AllOf(MatchesRegex("qvbrowse: [^\n]+\n"), HasSubstr(fault)));
   };
   for (std::string const lastIsWrong :
        {"prune", "--tools catalogue.json prune", "--prune", "ls tools --prune", "schemes packages",
@@ -140,7 +140,7 @@ TEST_F(QvBrowseCall, WrongUseHasItsOwnStatus) {
        {"ls", "show tools", "drag tools", "detail tools", "run-action Open", "search tools",
         "--tools", "--module", "tree tools --depth"})
     expectUsageError(tooShort, "required");
-  expectUsageError("search tools \"\"", "the text is empty");
+  expectUsageError("search tools \"\"", "empty");
 }
 
 TEST_F(QvBrowseCall, OptionsMayStandAfterTheCommand) {
@@ -165,6 +165,7 @@ TEST_F(QvBrowseRefuses, InOneSentence) {
        Cases{{"--tools faulty.json", {"\"faulty.json\"", "/tools", "expected an array"}},
              {"--tools views.json", {"\"views.json\"", "\"plan\"", "\"catalogue.json\""}},
              {"--tools frei0r:missing", {"\"missing\"", "No such file"}},
+             {"--module \"\" schemes", {"module \"\"", "Invalid argument"}},
              {"--module missing.qvmodule schemes", {"\"missing.qvmodule\"", "No such file"}},
              {"ls \"a\x1b\nb\"", {R"("a\x1b\nb")"}},
              {"tree \"\"", {"\"\""}},

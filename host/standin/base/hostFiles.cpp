@@ -23,8 +23,10 @@ std::string readFile(std::filesystem::path const& file) {
 }
 
 boost::dll::shared_library loadLibrary(std::filesystem::path const& file) {
-  std::filesystem::path const absolute = std::filesystem::absolute(file);
   std::error_code error;
+  std::filesystem::path const absolute = std::filesystem::absolute(file, error);
+  if (error)
+    throw HostError(error.message());
   boost::dll::shared_library library(absolute, boost::dll::load_mode::rtld_now, error);
   if (!error)
     return library;
