@@ -73,15 +73,18 @@ void declare(CLI::App& app, CommandLine& line) {
   app.footer(
       "Without a command, the trees of all schemes are shown. --module and --tools may stand "
       "after a command as well.\n"
-      "Exit status: 0 when all is well; 1 when the command failed or "
-      "found nothing; 2 when the command line is "
-      "wrong; 3 when the command is done, but plug-ins that could not be read are left out.");
+      "Exit status:\n"
+      "  0  all is well\n"
+      "  1  the command failed or found nothing\n"
+      "  2  the command line is wrong\n"
+      "  3  the command is done, but plug-ins that could not be read are left out");
   app.add_option("--module", line.module, "The module file to load")->type_name("FILE");
   app.add_option("--tools", line.tools,
                  "Where the tools come from, repeatable: frei0r, frei0r:DIR or a JSON catalogue")
       ->type_name("SOURCE")
       ->allow_extra_args(false);
-  app.add_flag("!--no-pager", line.paged, "Never show the output through $PAGER");
+  app.add_flag_callback(
+      "--no-pager", [&line] { line.paged = false; }, "Never show the output through $PAGER");
   app.require_subcommand(0, 1);
   // An option of several values would take a path in square brackets for a list.
   app.allow_extras();

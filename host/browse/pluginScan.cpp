@@ -46,13 +46,13 @@ public:
   explicit Descriptor(int number = -1) : number_(number) {}
   Descriptor(Descriptor const&) = delete;
   Descriptor& operator=(Descriptor const&) = delete;
-  ~Descriptor() { close(); }
+  ~Descriptor() { reset(); }
 
   int get() const { return number_; }
-  void close() {
+  void reset(int number = -1) {
     if (number_ >= 0)
-      ::close(number_);
-    number_ = -1;
+      close(number_);
+    number_ = number;
   }
 
 private:
@@ -110,6 +110,12 @@ int isolate(int pipe, pid_t parent) {
   _exit(EXIT_SUCCESS);
 }
 
+std::string signalName(int signal) {
+  // Not all signals have one.
+  char const* const name = sigabbrev_np(signal);
+  return name ? fmt::format("SIG{}", name) : fmt::format("signal {}", signal);
+}
+
 /// A child process that reads one plug-in, from its start to its end.
 class Child {
 public:
@@ -118,7 +124,7 @@ public:
       : index_(index), deadline_(deadline) {
     std::array<int, 2> ends = {-1, -1};
     int const failed = pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK);
-    answers_ = std::make_unique<Descriptor>(ends[0]);
+    answers_.reset(ends[0]);
     Descriptor const write(ends[1]);
     pid_t const parent = getpid();
     process_ = failed ? -1 : fork();
@@ -127,8 +133,8 @@ public:
       answer(file, readTool, write.get(), parent);
     }
     if (process_ > 0)
-      end_ = std::make_unique<Descriptor>(pidfd_open(process_, 0));
-    if (process_ < 0 || end_->get() < 0) {
+      end_.reset(pidfd_open(process_, 0));
+    if (process_ < 0 || end_.get() < 0) {
       int const reason = errno;
       finish();
       throw HostError(fmt::format("cannot start a process to read the plug-in \"{}\": {}",
@@ -143,20 +149,20 @@ public:
   std::size_t getIndex() const { return index_; }
   Clock::time_point getDeadline() const { return deadline_; }
   std::array<pollfd, 2> getEvents() const {
-    return {{{answers_->get(), POLLIN, 0}, {end_->get(), POLLIN, 0}}};
+    return {{{answers_.get(), POLLIN, 0}, {end_.get(), POLLIN, 0}}};
   }
 
   /// Takes what has been answered.
   void receive() {
     std::array<char, 1 << 12> buffer;
-    while (answers_->get() >= 0 && answer_.size() <= LongestAnswer) {
-      ssize_t const count = ::read(answers_->get(), buffer.data(), buffer.size());
+    while (answers_.get() >= 0 && answer_.size() <= LongestAnswer) {
+      ssize_t const count = ::read(answers_.get(), buffer.data(), buffer.size());
       if (count > 0)
         answer_.append(buffer.data(), std::size_t(count));
       else if (count < 0 && errno == EAGAIN)
         return;
       else if (count == 0 || errno != EINTR)
-        answers_->close();
+        answers_.reset();
     }
   }
 
@@ -176,7 +182,7 @@ public:
       reading.failure =
           fmt::format("it did not answer within {:g} seconds", double(limit.count()) / 1000);
     else if (WIFSIGNALED(status))
-      reading.failure = fmt::format("it crashed with SIG{} ({})", sigabbrev_np(WTERMSIG(status)),
+      reading.failure = fmt::format("it crashed with {} ({})", signalName(WTERMSIG(status)),
                                     strsignal(WTERMSIG(status)));
     else if (answer_.empty() || WEXITSTATUS(status) != EXIT_SUCCESS)
       reading.failure =
@@ -220,9 +226,9 @@ private:
   Clock::time_point deadline_;
   pid_t process_ = -1;
   /// The end of the pipe to read from.
-  std::unique_ptr<Descriptor> answers_;
+  Descriptor answers_;
   /// Can be read when the process has ended.
-  std::unique_ptr<Descriptor> end_;
+  Descriptor end_;
   std::string answer_;
 };
 
