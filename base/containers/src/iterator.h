@@ -22,6 +22,7 @@ public:
   explicit RCPvtEngPtr(E* engine = nullptr) noexcept : RCShdPtr<E>(engine) {}
   RCPvtEngPtr(RCPvtEngPtr const& other) noexcept = default;
   RCPvtEngPtr& operator=(RCPvtEngPtr const& other) noexcept = default;
+  RCPvtEngPtr& operator=(RCPvtEngPtr&& other) noexcept = default;
   ~RCPvtEngPtr();
 };
 
@@ -144,12 +145,18 @@ private:
 
   /// The engine, held by this iterator alone.
   IteratorImp<T>& exclusive() {
-    if (engine_->getRefCount() != 1) {
-      RCPvtEngPtr<IteratorImp<T>> const clone(engine_->clone());
-      if (!clone)
-        RCExUtil::throwExNullPtrOf<IteratorImp<T>*>();
-      engine_ = clone;
-    }
+    IteratorImp<T>& engine = *engine_;
+    if (engine.getRefCount() != 1) [[unlikely]]
+      return unshare();
+    return engine;
+  }
+
+  /// Replaces the engine by a clone of it. Kept out of the moves that every step of a walk inlines.
+  [[gnu::noinline]] IteratorImp<T>& unshare() {
+    RCPvtEngPtr<IteratorImp<T>> clone(engine_->clone());
+    if (!clone)
+      RCExUtil::throwExNullPtrOf<IteratorImp<T>*>();
+    engine_ = std::move(clone);
     return *engine_;
   }
 

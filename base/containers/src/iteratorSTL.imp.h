@@ -50,15 +50,15 @@ public:
     return Accessor::access(*position_);
   }
 
-  void first() override { position_ = container_->begin(); }
+  void first() override { position_ = container().begin(); }
   void last() override {
-    position_ = container_->end();
-    if (!container_->empty())
+    position_ = container().end();
+    if (!container().empty())
       --position_;
   }
-  void end() override { position_ = container_->end(); }
-  bool atEnd() const override { return position_ == container_->end(); }
-  bool atBegin() const override { return position_ == container_->begin(); }
+  void end() override { position_ = container().end(); }
+  bool atEnd() const override { return position_ == container().end(); }
+  bool atBegin() const override { return position_ == container().begin(); }
 
   void next() override {
     if (atEnd())
@@ -71,11 +71,14 @@ public:
     --position_;
   }
 
-  int getCardinality() const override { return static_cast<int>(container_->size()); }
+  int getCardinality() const override { return static_cast<int>(container().size()); }
   IteratorSTL* clone() const override { return new IteratorSTL(*this); }
 
 private:
   IteratorSTL(IteratorSTL const&) = default;
+
+  /// Without a test for null, which the constructor made.
+  Container& container() const { return *container_.get(); }
 
   /// The path is as the build records it, and the lines are those that handlers have always seen.
   [[noreturn]] static void throwOutOfRange(int line) {
