@@ -38,6 +38,8 @@ protected:
 
 /// Shared pointer to an object that derives from an RCBase.
 template <class T> class QV_EXPORT RCShdPtr : public RCBasePtr<T> {
+  template <class U> friend class RCShdPtr;
+
 public:
   /// Takes a reference on `ptr`, which may be null.
   explicit RCShdPtr(T* ptr = nullptr) noexcept : RCBasePtr<T>(ptr) { acquire(); }
@@ -47,6 +49,9 @@ public:
   /// Converts to a base class or to const.
   template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
   RCShdPtr(RCShdPtr<U> const& other) noexcept : RCShdPtr(other.get()) {}
+  /// Hands the reference over, which leaves `other` null.
+  template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+  RCShdPtr(RCShdPtr<U>&& other) noexcept : RCBasePtr<T>(std::exchange(other.ptr_, nullptr)) {}
 
   ~RCShdPtr() { release(this->ptr_); }
 
