@@ -26,20 +26,23 @@ PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
     : BrBrowsable(server), path_(path), superTool_(false) {
   Iterator<std::string> components = OmUtil::parsePath(OsFilePath(path));
   switch (components.getCardinality()) {
-  case 0:
+  case 0: {
     type_ = FOLDER;
     toolName_ = "Tools";
-    for (auto categories = PiToolRegistry::getInstance().getCategories(); !categories.atEnd();
-         categories.next())
+    Iterator<std::string> categories = PiToolRegistry::getInstance().getCategories();
+    childNames_.reserve(categories.getCardinality());
+    for (; !categories.atEnd(); categories.next())
       childNames_.push_back(LiString(categories.item()));
-    break;
-  case 1:
+  } break;
+  case 1: {
     type_ = CATEGORY;
     toolName_ = components.item();
-    for (auto tools = findTools(toolName_); !tools.atEnd(); tools.next())
+    Iterator<RCShdPtr<PiTool const>> tools = findTools(toolName_);
+    childNames_.reserve(tools.getCardinality());
+    for (; !tools.atEnd(); tools.next())
       childNames_.push_back(LiString(tools.item()->getName()));
     superTool_ = PiToolRegistry::getInstance().isSuperTool(toolName_);
-    break;
+  } break;
   case 2:
     components.next();
     type_ = TOOL;
@@ -73,6 +76,7 @@ PbrToolBrowsable::Type PbrToolBrowsable::getToolBrowsableType() const { return t
 
 Iterator<std::string> PbrToolBrowsable::getChildren() {
   RCStrongPtr<Names> const names(new Names);
+  names->reserve(childNames_.size());
   for (LiString const& name : childNames_)
     names->push_back(name);
   return makeIterator(names);

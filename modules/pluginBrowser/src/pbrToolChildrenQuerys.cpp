@@ -16,14 +16,16 @@ void PbrToolChildrenQuerys::reset() { pending_ = true; }
 Iterator<RCShdPtr<BrBrowsable>> PbrToolChildrenQuerys::getNextChildSequence() {
   RCStrongPtr<BrBrowsables> const children(new BrBrowsables);
   if (pending_ && browsable_->isAContainer()) {
+    OsFilePath const parentPath(browsable_->getPath());
+    std::string path;
     for (Iterator<std::string> names = browsable_->getChildren(); !names.atEnd(); names.next()) {
-      OsFilePath const parentPath(browsable_->getPath());
       OsFilePath childPath(parentPath);
       childPath += OsFilePath(names.item());
       if (filter_ == 2 && OmUtil::parsePath(childPath).getCardinality() != 2)
         continue;
-      children->push_back(
-          PbrToolBrowsable::create(browsable_->getServer(), std::string(childPath.getChars())));
+      // The string keeps its storage from child to child.
+      path = childPath.getChars();
+      children->push_back(PbrToolBrowsable::create(browsable_->getServer(), path));
     }
   }
   // Only now: a child that cannot be made leaves the query pending.
