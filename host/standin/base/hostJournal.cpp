@@ -20,10 +20,10 @@ void HostJournal::stop() {
   recording_ = false;
 }
 
-void HostJournal::record(char const* operation, std::string const& key, std::string const& detail) {
+void HostJournal::record(char const* operation, std::string_view key, std::string_view detail) {
   if (!recording_)
     return;
-  entries_.push_back({operation, key, detail});
+  entries_.push_back({operation, std::string(key), std::string(detail)});
   if (entries_.size() - 1 == failAt_)
     throw HostError(std::string(operation) + " was told to fail");
 }

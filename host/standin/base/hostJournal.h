@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Qv {
@@ -33,7 +34,7 @@ public:
   void failAt(std::size_t index) { failAt_ = index; }
 
   /// Adds an entry while the journal is kept. @throws HostError where told to fail.
-  void record(char const* operation, std::string const& key = "", std::string const& detail = "");
+  void record(char const* operation, std::string_view key = {}, std::string_view detail = {});
 
   std::vector<Entry> const& getEntries() const { return entries_; }
 

@@ -2,14 +2,23 @@
 
 #include "iteratorSTL.imp.h"
 
+#include <boost/container/small_vector.hpp>
 #include <string_view>
 
 namespace Qv {
 
-Iterator<std::string> OmUtil::parsePath(OsFilePath const& path) {
-  using Components = Vector<std::string>;
-  RCStrongPtr<Components> const components(new Components);
+namespace {
 
+/// The components with their count, in one block as long as they are few.
+class Components final : public RCBase<LkCounter<int>>,
+                         public boost::container::small_vector<std::string, 2> {
+  ~Components() override = default;
+};
+
+} // namespace
+
+Iterator<std::string> OmUtil::parsePath(OsFilePath const& path) {
+  RCShdPtr<Components> const components(new Components);
   std::string_view rest(path.getChars());
   while (!rest.empty()) {
     std::size_t const length = std::min(rest.find('/'), rest.size());
@@ -18,7 +27,8 @@ Iterator<std::string> OmUtil::parsePath(OsFilePath const& path) {
     rest.remove_prefix(std::min(length + 1, rest.size()));
   }
 
-  return makeIterator(components);
+  using Engine = IteratorSTL<Components, RCShdPtr<Components>, IteratorAccessorPassthrough>;
+  return Iterator<std::string>(RCPvtEngPtr<IteratorImp<std::string>>(new Engine(components)));
 }
 
 } // namespace Qv

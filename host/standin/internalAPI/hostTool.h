@@ -29,7 +29,6 @@ public:
   std::string getName() const override;
 
   bool isInternal() const { return facts_.internal; }
-  bool isSuperTool() const { return facts_.superTool; }
   std::string const& getCategory() const { return facts_.category; }
 
 private:

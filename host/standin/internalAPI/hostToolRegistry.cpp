@@ -24,7 +24,8 @@ void HostToolRegistry::addTool(HostToolFacts const& facts) {
   RCShdPtr<PiTool const> const tool(new HostTool(facts));
   tools_.push_back(tool);
   toolsByCategory_[facts.category].push_back(tool);
-  toolsByName_.emplace(facts.name, tool);
+  if (toolsByName_.emplace(facts.name, tool).second && facts.superTool)
+    superTools_.insert(facts.name);
 }
 
 void HostToolRegistry::clear() {
@@ -32,6 +33,7 @@ void HostToolRegistry::clear() {
   tools_.clear();
   toolsByCategory_.clear();
   toolsByName_.clear();
+  superTools_.clear();
 }
 
 RCShdPtr<PiTool const> HostToolRegistry::find(std::string const& name) const {
@@ -75,8 +77,7 @@ Iterator<std::string> HostToolRegistry::getCategories() {
 
 bool HostToolRegistry::isSuperTool(std::string const& name) {
   HostJournal::getInstance().record("PiToolRegistry::isSuperTool", name);
-  RCShdPtr<PiTool const> const tool = find(name);
-  return tool && tool.checkedCast<HostTool const>()->isSuperTool();
+  return superTools_.contains(name);
 }
 
 } // namespace Qv

@@ -5,6 +5,7 @@
 #include "piToolRegistry.h"
 
 #include <unordered_map>
+#include <unordered_set>
 
 namespace Qv {
 
@@ -37,6 +38,8 @@ private:
   Tools tools_;
   std::unordered_map<std::string, Tools> toolsByCategory_;
   std::unordered_map<std::string, RCShdPtr<PiTool const>> toolsByName_;
+  /// The names under which look-ups find a super tool.
+  std::unordered_set<std::string> superTools_;
 };
 
 } // namespace Qv

@@ -74,12 +74,15 @@ template class PrdPredicate<ToolPtr>;
 
 namespace {
 
+/// Every tool of the registry is one of the host's own.
+HostTool const& hostTool(ToolPtr const& tool) { return static_cast<HostTool const&>(*tool); }
+
 class IsCategory final : public PrdTerm<ToolPtr> {
 public:
   explicit IsCategory(LiString const& category) : category_(category) {}
 
   bool holds(ToolPtr const& tool) const override {
-    return tool.checkedCast<HostTool const>()->getCategory() == category_;
+    return hostTool(tool).getCategory() == category_;
   }
   std::string const* getIndexKey() const override { return &category_; }
 
@@ -89,9 +92,7 @@ private:
 
 class IsInternal final : public PrdTerm<ToolPtr> {
 public:
-  bool holds(ToolPtr const& tool) const override {
-    return tool.checkedCast<HostTool const>()->isInternal();
-  }
+  bool holds(ToolPtr const& tool) const override { return hostTool(tool).isInternal(); }
 };
 
 class IsActive final : public PrdTerm<ToolPtr> {

@@ -1,5 +1,7 @@
 #include "osFilePath.h"
 
+#include <algorithm>
+
 namespace Qv {
 
 OsFilePath::OsFilePath(std::string const& path) : path_(path) {}
@@ -15,10 +17,13 @@ OsFilePath& OsFilePath::operator+=(OsFilePath const& other) {
     path_ += other.path_;
     return *this;
   }
-  std::size_t const left = path_.find_last_not_of('/') + 1;
-  std::size_t const right = other.path_.find_first_not_of('/');
-  path_ = path_.substr(0, left) + '/' +
-          (right == std::string::npos ? std::string() : other.path_.substr(right));
+  // A path may be appended to itself.
+  std::size_t const right = std::min(other.path_.find_first_not_of('/'), other.path_.size());
+  std::string joined;
+  joined.reserve(path_.size() + 1 + other.path_.size());
+  joined.append(path_, 0, path_.find_last_not_of('/') + 1).append(1, '/');
+  joined.append(other.path_, right);
+  path_.swap(joined);
   return *this;
 }
 
