@@ -32,7 +32,7 @@ PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
     Iterator<std::string> categories = PiToolRegistry::getInstance().getCategories();
     childNames_.reserve(categories.getCardinality());
     for (; !categories.atEnd(); categories.next())
-      childNames_.push_back(LiString(categories.item()));
+      childNames_.emplace_back(categories.item());
   } break;
   case 1: {
     type_ = CATEGORY;
@@ -40,7 +40,7 @@ PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
     Iterator<RCShdPtr<PiTool const>> tools = findTools(toolName_);
     childNames_.reserve(tools.getCardinality());
     for (; !tools.atEnd(); tools.next())
-      childNames_.push_back(LiString(tools.item()->getName()));
+      childNames_.emplace_back(tools.item()->getName());
     superTool_ = PiToolRegistry::getInstance().isSuperTool(toolName_);
   } break;
   case 2:
