@@ -1,0 +1,221 @@
+#!/usr/bin/env python3
+"""Measures the cases of the program `benchmarks`; scripts/bench tells how to call it.
+
+Times are taken in rounds, each case in a process of its own, so that cases neither disturb each
+other nor profit from one hour of the machine. Counts come from two runs of different length, whose
+difference leaves the start of the process out.
+"""
+
+import concurrent.futures
+import json
+import os
+import pathlib
+import re
+import statistics
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+BUILD = ROOT / "build/release"
+PROGRAM = BUILD / "bin/benchmarks"
+COUNTS = ROOT / "benchmarks/counts.txt"
+TEMPLATE = ROOT / "benchmarks/performance.template.md"
+DOCUMENT = ROOT / "docs/performance.md"
+
+ROUNDS = 9
+# As long as each other on the command line, since reading it counts too.
+PASSES = (10, 20)
+# Instructions may differ a little between processors, for which the C library has its own memcpy.
+TOLERANCE = 0.01
+OWNERS = ("module", "standin", "program")
+QUANTITIES = ("instructions", *(f"{owner}_{unit}" for owner in OWNERS for unit in ("blocks", "bytes")))
+
+
+def run(*command):
+    """The output of a command, which sees none of the caller's environment but the path."""
+    environment = {"PATH": os.environ["PATH"]}
+    result = subprocess.run(command, env=environment, capture_output=True, text=True)
+    if result.returncode != 0:
+        sys.exit(f"bench: {' '.join(map(str, command))} failed: {result.stderr.strip()}")
+    return result
+
+
+def list_cases():
+    return run(PROGRAM, "--benchmark_list_tests").stdout.split()
+
+
+def elements(case):
+    """How many elements one pass handles: the product of the numbers that the name ends in."""
+    size = case.rsplit("/", 1)[1]
+    factors = size.split("x") if re.fullmatch(r"\d+(x\d+)?", size) else []
+    result = 1
+    for factor in factors:
+        result *= int(factor)
+    return result
+
+
+# Times
+
+
+def time_once(case):
+    """Nanoseconds of one pass, for each element."""
+    output = run(PROGRAM, f"--benchmark_filter=^{case}$", "--benchmark_format=json",
+                 "--benchmark_min_time=0.05").stdout
+    return json.loads(output)["benchmarks"][0]["cpu_time"] / elements(case)
+
+
+def measure_times(cases):
+    times = {case: [] for case in cases}
+    for number in range(ROUNDS):
+        print(f"Round {number + 1} of {ROUNDS}", file=sys.stderr)
+        for case in cases:
+            times[case].append(time_once(case))
+    return times
+
+
+# Counts
+
+
+def total(case, passes):
+    """What all passes together take, in the order of QUANTITIES."""
+    log = run("valgrind", "--tool=cachegrind", "--cache-sim=no", "--cachegrind-out-file=/dev/null",
+              PROGRAM, "--repeat", case, str(passes)).stderr
+    instructions = re.search(r"I\s+refs:\s+([\d,]+)", log)[1].replace(",", "")
+    allocations = run(PROGRAM, "--allocations", case, str(passes)).stdout.split()
+    return [int(instructions), *map(int, allocations)]
+
+
+def count(case):
+    """What one pass takes."""
+    fewer, more = (total(case, passes) for passes in PASSES)
+    return dict(zip(QUANTITIES, ((b - a) / (PASSES[1] - PASSES[0]) for a, b in zip(fewer, more))))
+
+
+def measure_counts(cases):
+    # One length of listing stands for all: each element takes the same.
+    counted = [case for case in cases if case.startswith("walk/") or elements(case) in (1, 1000)]
+    print(f"Counting {len(counted)} cases", file=sys.stderr)
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        return dict(zip(counted, pool.map(count, counted)))
+
+
+def write_counts(counts):
+    rows = [("case", *QUANTITIES)]
+    rows += [(case, *(f"{counted[quantity]:.10g}" for quantity in QUANTITIES))
+             for case, counted in counts.items()]
+    widths = [max(map(len, column)) for column in zip(*rows)]
+    COUNTS.write_text("# What one pass of each case takes. Written by scripts/bench.\n" + "".join(
+        row[0].ljust(widths[0]) + "".join(f"  {cell.rjust(width)}"
+                                          for cell, width in zip(row[1:], widths[1:])) + "\n"
+        for row in rows))
+
+
+def read_counts():
+    lines = [line.split() for line in COUNTS.read_text().splitlines() if not line.startswith("#")]
+    return {case: dict(zip(lines[0][1:], map(float, cells))) for case, *cells in lines[1:]}
+
+
+def check(counts):
+    """Names what has grown; returns whether nothing has."""
+    expected = read_counts()
+    faults = [f"{case} is not in {COUNTS.name}" for case in counts.keys() - expected.keys()]
+    faults += [f"{case} is in {COUNTS.name} alone" for case in expected.keys() - counts.keys()]
+    for case in counts.keys() & expected.keys():
+        for quantity in QUANTITIES:
+            before, now = expected[case][quantity], counts[case][quantity]
+            tolerance = TOLERANCE if quantity == "instructions" else 0
+            if now > before * (1 + tolerance):
+                faults.append(f"{case}: {quantity} grew from {before:.10g} to {now:.10g}")
+    for fault in sorted(faults):
+        print(f"bench: {fault}", file=sys.stderr)
+    return not faults
+
+
+# The document
+
+
+def short(number):
+    """A number with three digits, or all that stand before its point."""
+    return f"{number:,.0f}" if number >= 100 else f"{number:.3g}"
+
+
+class Figures:
+    """What the template may ask for: {question case...}."""
+
+    def __init__(self, times, counts):
+        self.times = times
+        self.counts = counts
+
+    def time(self, case):
+        return short(statistics.median(self.times[case]))
+
+    def ratio(self, case, peer, limit=None):
+        """Case by peer, the median of the rounds; bold when it misses the limit."""
+        value = statistics.median(a / b for a, b in zip(self.times[case], self.times[peer]))
+        text = f"{value:.2f}"
+        return f"**{text}**" if limit and float(text) > float(limit) else text
+
+    def instructions(self, case):
+        return self.quantity("instructions", case)
+
+    def quantity(self, quantity, case):
+        return short(self.counts[case][quantity] / elements(case))
+
+    def instruction_ratio(self, case, peer):
+        one, other = (self.counts[name]["instructions"] / elements(name) for name in (case, peer))
+        return f"{one / other:.2f}"
+
+    def relocations(self, file):
+        lines = run("readelf", "--relocs", "--wide", BUILD / "lib" / file).stdout.splitlines()
+        return str(sum(bool(re.match(r"[0-9a-f]{16} ", line)) for line in lines))
+
+    def machine(self):
+        model = re.search(r"model name\s*: (.*)", pathlib.Path("/proc/cpuinfo").read_text())[1]
+        system = re.search(r'PRETTY_NAME="(.*)"', pathlib.Path("/etc/os-release").read_text())[1]
+        return f"{model}, {os.cpu_count()} processors, {system}"
+
+    def compiler(self):
+        name = re.search(r"CMAKE_CXX_COMPILER:\w+=(.*)", (BUILD / "CMakeCache.txt").read_text())[1]
+        return run(name, "--version").stdout.splitlines()[0]
+
+    def rounds(self):
+        return str(ROUNDS)
+
+
+def write_document(figures):
+    def answer(match):
+        question, *arguments = match[1].split()
+        return getattr(figures, question)(*arguments)
+
+    DOCUMENT.write_text(re.sub(r"\{([^}]*)\}", answer, TEMPLATE.read_text()))
+
+
+def draw(times):
+    """One picture for each group of cases that grow, from the medians of the times."""
+    for picture in ("list", "tree"):
+        rows = [(case.split("/")[1], elements(case), statistics.median(values))
+                for case, values in times.items() if case.startswith(picture + "/")]
+        series = sorted({name for name, _, _ in rows})
+        data = BUILD / f"{picture}.dat"
+        data.write_text("".join(f'"{name}"\n' + "".join(
+            f"{size} {time}\n" for other, size, time in rows if other == name) + "\n\n"
+            for name in series))
+        run("gnuplot", "-e", f"data='{data}'; output='{ROOT}/docs/{picture}.svg'",
+            ROOT / f"benchmarks/{picture}.gnuplot")
+
+
+def main():
+    if sys.argv[1:] not in ([], ["--check"]):
+        sys.exit("bench: the only option is --check")
+    cases = list_cases()
+    counts = measure_counts(cases)
+    if sys.argv[1:]:
+        sys.exit(not check(counts))
+    times = measure_times(cases)
+    write_counts(counts)
+    write_document(Figures(times, counts))
+    draw(times)
+
+
+if __name__ == "__main__":
+    main()

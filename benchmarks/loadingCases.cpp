@@ -1,0 +1,30 @@
+#include "cases.h"
+
+#include "hostFiles.h"
+#include "hostModule.h"
+
+#include <boost/dll/shared_library.hpp>
+
+namespace Qv {
+
+namespace {
+
+auto loadAndUnload(char const* file) {
+  return [file](auto& loop) {
+    for (auto _ : loop)
+      loadLibrary(file);
+  };
+}
+
+} // namespace
+
+void Cases::addLoading() {
+  add("load/empty", loadAndUnload(EMPTY_LIBRARY_FILE));
+  add("load/module", loadAndUnload(MODULE_FILE));
+  add("initialise/module", [](auto& loop) {
+    for (auto _ : loop)
+      HostModule const module(MODULE_FILE);
+  });
+}
+
+} // namespace Qv

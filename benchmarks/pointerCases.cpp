@@ -1,0 +1,66 @@
+#include "cases.h"
+#include "iterator.h"
+
+#include <boost/smart_ptr/intrusive_ptr.hpp>
+#include <boost/smart_ptr/intrusive_ref_counter.hpp>
+
+#include <memory>
+
+namespace Qv {
+
+namespace {
+
+template <class Counter> struct Peer : boost::intrusive_ref_counter<Peer<Counter>, Counter> {
+  virtual ~Peer() = default;
+};
+
+template <class Counter> class Counted : public RCBase<Counter> {
+protected:
+  ~Counted() override = default;
+};
+
+template <class Make> auto copy(Make make) {
+  return [make](auto& loop) {
+    auto const pointer = make();
+    for (auto _ : loop) {
+      auto copied(pointer);
+      benchmark::DoNotOptimize(copied);
+    }
+  };
+}
+
+/// Passes a pointer to a new owner and back.
+template <class Make> auto handOver(Make make) {
+  return [make](auto& loop) {
+    auto here = make();
+    for (auto _ : loop) {
+      auto there = std::move(here);
+      benchmark::DoNotOptimize(there);
+      here = std::move(there);
+      benchmark::DoNotOptimize(here);
+    }
+  };
+}
+
+} // namespace
+
+void Cases::addPointers() {
+  auto const atomic = [] { return RCShdPtr(new Counted<LkCounter<int>>); };
+  auto const plain = [] { return RCShdPtr(new Counted<int>); };
+  auto const atomicPeer = [] { return boost::intrusive_ptr(new Peer<boost::thread_safe_counter>); };
+  auto const plainPeer = [] {
+    return boost::intrusive_ptr(new Peer<boost::thread_unsafe_counter>);
+  };
+  auto const shared = [] { return std::make_shared<int>(); };
+
+  add("copy/atomic/RCShdPtr", copy(atomic));
+  add("copy/atomic/intrusive_ptr", copy(atomicPeer));
+  add("copy/atomic/shared_ptr", copy(shared));
+  add("copy/plain/RCShdPtr", copy(plain));
+  add("copy/plain/intrusive_ptr", copy(plainPeer));
+  add("move/atomic/RCShdPtr", handOver(atomic));
+  add("move/atomic/intrusive_ptr", handOver(atomicPeer));
+  add("move/atomic/shared_ptr", handOver(shared));
+}
+
+} // namespace Qv
