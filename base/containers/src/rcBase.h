@@ -17,6 +17,8 @@ public:
   T operator++(int) noexcept { return value_.fetch_add(1, std::memory_order_seq_cst); }
   /// Returns the value before the change.
   T operator--(int) noexcept { return value_.fetch_sub(1, std::memory_order_seq_cst); }
+  /// Returns the value after the change.
+  T operator--() noexcept { return (*this)-- - 1; }
 
   /// The value at this moment.
   operator T() const noexcept { return value_.load(std::memory_order_seq_cst); }
@@ -35,7 +37,8 @@ public:
 
   /// Gives one reference back; the last one deletes the object, whose destructor may be protected.
   void release() const noexcept {
-    if (count_-- == 1)
+    // Compared with 0, a plain count takes one instruction less.
+    if (--count_ == 0)
       delete this;
   }
 
