@@ -161,6 +161,10 @@ class Figures:
     def quantity(self, quantity, case):
         return short(self.counts[case][quantity] / elements(case))
 
+    def whole(self, quantity, case):
+        """Of a whole pass, whatever the number of its elements."""
+        return short(self.counts[case][quantity])
+
     def instruction_ratio(self, case, peer):
         one, other = (self.counts[name]["instructions"] / elements(name) for name in (case, peer))
         return f"{one / other:.2f}"

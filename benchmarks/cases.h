@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <stdexcept>
 #include <string>
 
 namespace Qv {
@@ -55,8 +56,13 @@ public:
   void addModule();
   void addLoading();
 
-  /// Runs one case. @throws std::out_of_range when there is none of that name.
-  void run(std::string const& name, CountedLoop loop) const { counted_.at(name)(loop); }
+  /// Runs one case. @throws std::invalid_argument when there is none of that name.
+  void run(std::string const& name, CountedLoop loop) const {
+    auto const found = counted_.find(name);
+    if (found == counted_.end())
+      throw std::invalid_argument("there is no case \"" + name + "\"");
+    found->second(loop);
+  }
 
 private:
   std::map<std::string, std::function<void(CountedLoop)>> counted_;

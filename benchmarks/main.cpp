@@ -3,18 +3,43 @@
 
 #include "hostResources.h"
 
+#include <charconv>
 #include <chrono>
 #include <iostream>
+#include <stdexcept>
+#include <string_view>
 #include <thread>
+
+namespace Qv {
+namespace {
+
+int readTimes(std::string const& text) {
+  int times = 0;
+  char const* const end = text.data() + text.size();
+  auto const [rest, error] = std::from_chars(text.data(), end, times);
+  if (error != std::errc() || rest != end || times < 1)
+    throw std::invalid_argument("\"" + text + "\" is no number of passes");
+  return times;
+}
+
+void repeat(Cases const& cases, char** arguments, bool allocations) {
+  cases.run(arguments[0], CountedLoop(readTimes(arguments[1]), allocations));
+  if (allocations)
+    for (Allocations const& owned : getAllocations())
+      std::cout << owned.blocks << ' ' << owned.bytes << '\n';
+}
+
+} // namespace
+} // namespace Qv
 
 // benchmarks [--benchmark_...]: takes the time of the cases.
 // benchmarks --repeat CASE TIMES: runs one case that often, for whoever counts instructions.
 // benchmarks --allocations CASE TIMES: prints the blocks and bytes that this took from the heap,
 // for the module, the stand-in and the program.
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   using namespace Qv;
-  // A process that never started a thread counts shared pointers without atomics. It sleeps, so that
-  // joining it always takes the same instructions, those of having to wait.
+  // A process that never started a thread counts shared pointers without atomics. It sleeps, so
+  // that joining it always takes the same instructions, those of having to wait.
   std::thread([] { std::this_thread::sleep_for(std::chrono::milliseconds(20)); }).join();
   HostResources::getInstance().setDirectory(RESOURCE_DIR);
 
@@ -24,16 +49,16 @@ int main(int argc, char** argv) {
   cases.addModule();
   cases.addLoading();
 
-  if (std::string_view const mode(argc == 4 ? argv[1] : ""); mode == "--repeat") {
-    cases.run(argv[2], CountedLoop(std::stol(argv[3])));
-  } else if (mode == "--allocations") {
-    cases.run(argv[2], CountedLoop(std::stol(argv[3]), true));
-    for (Allocations const& owned : getAllocations())
-      std::cout << owned.blocks << ' ' << owned.bytes << '\n';
-  } else {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-      return 1;
-    benchmark::RunSpecifiedBenchmarks();
+  std::string_view const mode(argc == 4 ? argv[1] : "");
+  if (mode == "--repeat" || mode == "--allocations") {
+    repeat(cases, argv + 2, mode == "--allocations");
+    return 0;
   }
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    return 1;
+  benchmark::RunSpecifiedBenchmarks();
+} catch (std::exception const& error) {
+  std::cerr << "benchmarks: " << error.what() << '\n';
+  return 1;
 }
