@@ -21,7 +21,7 @@ public:
       : left_(times), allocations_(allocations) {}
 
   struct End {};
-  struct [[maybe_unused]] Pass {};
+  struct Pass {};
   CountedLoop& begin() {
     if (allocations_)
       startCounting();
@@ -45,7 +45,7 @@ private:
 class Cases {
 public:
   /// @param body is called with a loop (a `benchmark::State` or a CountedLoop) and runs
-  /// `for (auto _ : loop)` over what is measured. What it does around the loop is not measured.
+  /// a range-for over what is measured. What it does around the loop is not measured.
   template <class Body> void add(std::string const& name, Body body) {
     benchmark::RegisterBenchmark(name.c_str(), [body](benchmark::State& state) { body(state); });
     counted_[name] = [body](CountedLoop loop) { body(loop); };

@@ -74,7 +74,7 @@ template <class Container> void addWalks(Cases& cases, std::string const& engine
   auto const add = [&](std::string const& name, auto sum) {
     cases.add("walk/" + engine + "/" + name + "/" + std::to_string(Elements), [sum](auto& loop) {
       auto const container = makeContainer<Container>();
-      for (auto _ : loop)
+      for ([[maybe_unused]] auto _ : loop)
         benchmark::DoNotOptimize(sum(container));
     });
   };
@@ -109,14 +109,14 @@ void Cases::addIterators() {
 
   add("copy/Iterator", [](auto& loop) {
     Iterator<int> const shared = iteratorOver(makeContainer<List<int>>());
-    for (auto _ : loop) {
+    for ([[maybe_unused]] auto _ : loop) {
       Iterator<int> copied(shared);
       benchmark::DoNotOptimize(copied);
     }
   });
   add("unshare/Iterator", [](auto& loop) {
     Iterator<int> const shared = iteratorOver(makeContainer<List<int>>());
-    for (auto _ : loop) {
+    for ([[maybe_unused]] auto _ : loop) {
       Iterator<int> copied(shared);
       copied.next();
       benchmark::DoNotOptimize(copied);

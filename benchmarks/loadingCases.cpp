@@ -11,7 +11,7 @@ namespace {
 
 auto loadAndUnload(char const* file) {
   return [file](auto& loop) {
-    for (auto _ : loop)
+    for ([[maybe_unused]] auto _ : loop)
       loadLibrary(file);
   };
 }
@@ -22,7 +22,7 @@ void Cases::addLoading() {
   add("load/empty", loadAndUnload(EMPTY_LIBRARY_FILE));
   add("load/module", loadAndUnload(MODULE_FILE));
   add("initialise/module", [](auto& loop) {
-    for (auto _ : loop)
+    for ([[maybe_unused]] auto _ : loop)
       HostModule const module(MODULE_FILE);
   });
 }

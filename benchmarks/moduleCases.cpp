@@ -114,7 +114,7 @@ template <class Use> auto withTool(Use use) {
     Host host(1, 100);
     RCShdPtr<BrBrowsable> const tool = host.item("Category0/Tool0");
     LiString text;
-    for (auto _ : loop) {
+    for ([[maybe_unused]] auto _ : loop) {
       use(*tool, text);
       benchmark::DoNotOptimize(text);
     }
@@ -128,19 +128,19 @@ void Cases::addModule() {
     add("list/module/" + std::to_string(tools), [tools](auto& loop) {
       Host host(1, tools);
       LiString text;
-      for (auto _ : loop)
+      for ([[maybe_unused]] auto _ : loop)
         forEachChild(*host.item("Category0"), [&](auto& child) { readNameAndType(child, text); });
     });
     add("list/hand-written/" + std::to_string(tools), [tools](auto& loop) {
       Host const host(1, tools);
       std::string text;
-      for (auto _ : loop)
+      for ([[maybe_unused]] auto _ : loop)
         listByHand<std::string>("Category0", text);
     });
     add("list/host-calls/" + std::to_string(tools), [tools](auto& loop) {
       Host const host(1, tools);
       std::string text;
-      for (auto _ : loop)
+      for ([[maybe_unused]] auto _ : loop)
         listByHand<OsFilePath>("Category0", text);
     });
   }
@@ -152,7 +152,7 @@ void Cases::addModule() {
         [categories = categories, tools = tools](auto& loop) {
           Host host(categories, tools);
           LiString text;
-          for (auto _ : loop)
+          for ([[maybe_unused]] auto _ : loop)
             forEachChild(*host.item(""), [&](auto& category) {
               readNameAndType(category, text);
               forEachChild(category, [&](auto& tool) { readNameAndType(tool, text); });
@@ -162,7 +162,7 @@ void Cases::addModule() {
   add("item/node", [](auto& loop) {
     Host host(1, 100);
     LiString const path("Category0/Tool0");
-    for (auto _ : loop)
+    for ([[maybe_unused]] auto _ : loop)
       benchmark::DoNotOptimize(host.item(path));
   });
   auto const attribute = [](unsigned int id) {

@@ -22,7 +22,7 @@ protected:
 template <class Make> auto copy(Make make) {
   return [make](auto& loop) {
     auto const pointer = make();
-    for (auto _ : loop) {
+    for ([[maybe_unused]] auto _ : loop) {
       auto copied(pointer);
       benchmark::DoNotOptimize(copied);
     }
@@ -33,7 +33,7 @@ template <class Make> auto copy(Make make) {
 template <class Make> auto handOver(Make make) {
   return [make](auto& loop) {
     auto here = make();
-    for (auto _ : loop) {
+    for ([[maybe_unused]] auto _ : loop) {
       auto there = std::move(here);
       benchmark::DoNotOptimize(there);
       here = std::move(there);
