@@ -102,6 +102,12 @@ protected:
     return runInShell("script -qec '" + std::string("env ") + environment + " " +
                       commandLine(arguments) + "' /dev/null");
   }
+  /// Runs it with a terminal for its result alone, so that it does not tell what takes long.
+  ProgramRun runOntoTerminal(std::string const& environment, std::string const& arguments) const {
+    ProgramRun run = runOnTerminal(environment, arguments + " 2>problems");
+    run.err = read("problems");
+    return run;
+  }
   void install(char const* plugin, char const* name) const {
     std::filesystem::create_directories(directory_ / "plugins");
     std::filesystem::copy_file(plugin, directory_ / "plugins" / name);
@@ -467,18 +473,18 @@ TEST_F(QvBrowseText, IsColouredOnATerminalOnly) {
     arguments.insert(0, "--tools catalogue.json ");
     std::string const piped = result(run(arguments));
     EXPECT_THAT(piped, Not(HasSubstr("\x1b")));
-    std::string const coloured = result(runOnTerminal("-u NO_COLOR", arguments));
+    std::string const coloured = result(runOntoTerminal("-u NO_COLOR", arguments));
     EXPECT_THAT(coloured, HasSubstr("\x1b["));
     EXPECT_EQ(withoutStyles(coloured), piped);
-    for (ProgramRun const& plain : {runOnTerminal("NO_COLOR=1", arguments),
-                                    runOnTerminal("-u NO_COLOR", arguments + " --json")})
+    for (ProgramRun const& plain : {runOntoTerminal("NO_COLOR=1", arguments),
+                                    runOntoTerminal("-u NO_COLOR", arguments + " --json")})
       EXPECT_THAT(result(plain), Not(HasSubstr("\x1b")));
   }
 }
 
 TEST_F(QvBrowseText, GoesThroughThePagerOnATerminal) {
   auto const runWithPager = [&](std::string const& pager, std::string const& arguments) {
-    return runOnTerminal("PAGER=\"" + pager + "\"", "--tools catalogue.json " + arguments);
+    return runOntoTerminal("PAGER=\"" + pager + "\"", "--tools catalogue.json " + arguments);
   };
   std::string const listed = result(browse("ls tools Wood"));
   std::string const paged = result(runWithPager("sed s/^/paged:/", "ls tools Wood"));
@@ -499,7 +505,7 @@ TEST_F(QvBrowseText, GoesThroughThePagerOnATerminal) {
 
   ProgramRun const missing = runWithPager("no-such-pager", "ls tools");
   EXPECT_EQ(missing.status, 1);
-  EXPECT_THAT(missing.out, HasSubstr("\"no-such-pager\""));
+  EXPECT_THAT(missing.err, HasSubstr("\"no-such-pager\""));
 }
 
 TEST_F(QvBrowseText, TellsWhatIsUnderWayOnATerminalOnly) {
@@ -509,7 +515,8 @@ TEST_F(QvBrowseText, TellsWhatIsUnderWayOnATerminalOnly) {
   EXPECT_THAT(shown, HasSubstr("\rreading plug-ins, 0 of 1 ...\x1b[K"));
   EXPECT_THAT(shown, testing::EndsWith(
                          "\r\x1b[K\x1b[1mType\x1b[0m  \x1b[1mTool\x1b[0m\r\nTool  sleep\r\n"));
-  EXPECT_EQ(result(runOnTerminal("-u NO_COLOR", arguments)).find("reading"), std::string::npos);
+  EXPECT_EQ(result(runOnTerminal("-u NO_COLOR", arguments)).find("reading plug-ins"),
+            std::string::npos);
   std::filesystem::remove_all(directory_ / "cache");
   EXPECT_EQ(result(run(arguments)), "Type  Tool\nTool  sleep\n");
 }
