@@ -19,11 +19,11 @@ Owner findOwner(void* const* begin, void* const* end) {
     if (!dladdr(*frame, &info))
       continue;
     std::string_view const file(info.dli_fname);
-    if (file.find("libQVpluginBrowser") != file.npos)
+    if (file.find("libQVpluginBrowser") != std::string_view::npos)
       return Owner::Module;
-    if (file.find("libQV") != file.npos)
+    if (file.find("libQV") != std::string_view::npos)
       return Owner::StandIn;
-    if (file.find("libstdc++") == file.npos)
+    if (file.find("libstdc++") == std::string_view::npos)
       break;
   }
   return Owner::Program;
@@ -35,7 +35,7 @@ Owner findOwner(void* const* begin, void* const* end) {
   std::array<void*, 16> frames;
   int const depth = backtrace(frames.data(), frames.size());
   // The first two are this function's and operator new's.
-  Owner const owner = findOwner(&frames[2], &frames[0] + depth);
+  Owner const owner = findOwner(frames.data() + 2, frames.data() + depth);
   Allocations& owned = allocations.at(std::size_t(owner));
   ++owned.blocks;
   owned.bytes += std::int64_t(size);

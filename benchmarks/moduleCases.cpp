@@ -16,6 +16,8 @@ namespace Qv {
 
 namespace {
 
+constexpr char Category[] = "Category0";
+
 /// The loaded module, and a tool registry with categories of as many tools each. A tool's name fits
 /// a short string, its path does not.
 class Host {
@@ -89,15 +91,14 @@ struct HandWritten : boost::intrusive_ref_counter<HandWritten> {
   bool superTool = false;
 };
 
-/// @tparam Path what the items take the category as.
-template <class Path> void listByHand(std::string const& category, std::string& text) {
+/// @param path the category as the items take it.
+template <class Path> void listByHand(Path const& path, std::string& text) {
   Iterator<RCShdPtr<PiTool const>> tools = PiToolRegistry::getInstance().getTools(
-      PiToolPredicates::isCategory(category) && !PiToolPredicates::isInternal() &&
+      PiToolPredicates::isCategory(Category) && !PiToolPredicates::isInternal() &&
           PiToolPredicates::isActive(),
       true);
   std::vector<boost::intrusive_ptr<HandWritten>> items;
   items.reserve(tools.getCardinality());
-  Path const path(category);
   for (; !tools.atEnd(); tools.next())
     items.emplace_back(new HandWritten(path, tools.item()->getName()));
   for (auto const& item : items) {
@@ -129,19 +130,19 @@ void Cases::addModule() {
       Host host(1, tools);
       LiString text;
       for ([[maybe_unused]] auto _ : loop)
-        forEachChild(*host.item("Category0"), [&](auto& child) { readNameAndType(child, text); });
+        forEachChild(*host.item(Category), [&](auto& child) { readNameAndType(child, text); });
     });
     add("list/hand-written/" + std::to_string(tools), [tools](auto& loop) {
       Host const host(1, tools);
       std::string text;
       for ([[maybe_unused]] auto _ : loop)
-        listByHand<std::string>("Category0", text);
+        listByHand(std::string(Category), text);
     });
     add("list/host-calls/" + std::to_string(tools), [tools](auto& loop) {
       Host const host(1, tools);
       std::string text;
       for ([[maybe_unused]] auto _ : loop)
-        listByHand<OsFilePath>("Category0", text);
+        listByHand(OsFilePath(std::string(Category)), text);
     });
   }
 
