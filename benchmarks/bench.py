@@ -11,13 +11,15 @@ import json
 import os
 import pathlib
 import re
+import shutil
 import statistics
 import subprocess
 import sys
+import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build/release"
-PROGRAM = BUILD / "bin/benchmarks"
+PROGRAM = "bin/benchmarks"  # In the directory that main makes.
 COUNTS = ROOT / "benchmarks/counts.txt"
 TEMPLATE = ROOT / "benchmarks/performance.template.md"
 DOCUMENT = ROOT / "docs/performance.md"
@@ -26,7 +28,7 @@ ROUNDS = 9
 # As long as each other on the command line, since reading it counts too.
 PASSES = (10, 20)
 # Instructions may differ a little between processors, for which the C library has its own memcpy.
-TOLERANCE = 0.01
+TOLERANCE = 0.02
 OWNERS = ("module", "standin", "program")
 QUANTITIES = ("instructions", *(f"{owner}_{unit}" for owner in OWNERS for unit in ("blocks", "bytes")))
 
@@ -211,11 +213,16 @@ def draw(times):
 def main():
     if sys.argv[1:] not in ([], ["--check"]):
         sys.exit("bench: the only option is --check")
-    cases = list_cases()
-    counts = measure_counts(cases)
-    if sys.argv[1:]:
-        sys.exit(not check(counts))
-    times = measure_times(cases)
+    # Paths are allocated and compared as well, so they must be as long everywhere.
+    with tempfile.TemporaryDirectory(dir="/tmp") as place:
+        for part in ("bin", "lib", "share"):
+            shutil.copytree(BUILD / part, pathlib.Path(place, part))
+        os.chdir(place)
+        cases = list_cases()
+        counts = measure_counts(cases)
+        if sys.argv[1:]:
+            sys.exit(not check(counts))
+        times = measure_times(cases)
     write_counts(counts)
     write_document(Figures(times, counts))
     draw(times)

@@ -3,8 +3,10 @@
 
 #include "hostResources.h"
 
+#include <boost/dll/runtime_symbol_info.hpp>
 #include <charconv>
 #include <chrono>
+#include <filesystem>
 #include <iostream>
 #include <stdexcept>
 #include <string_view>
@@ -41,6 +43,7 @@ int main(int argc, char** argv) try {
   // A process that never started a thread counts shared pointers without atomics. It sleeps, so
   // that joining it always takes the same instructions, those of having to wait.
   std::thread([] { std::this_thread::sleep_for(std::chrono::milliseconds(20)); }).join();
+  std::filesystem::current_path(boost::dll::program_location().parent_path());
   HostResources::getInstance().setDirectory(RESOURCE_DIR);
 
   Cases cases;
