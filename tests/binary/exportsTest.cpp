@@ -28,9 +28,9 @@ std::set<std::string> exportedNames() {
     if (type == 'u')
       throw std::runtime_error(symbol + " is unique in the process");
     // What the compilers make of the standard library is merged at load, as type identities are;
-    // the rest is what counts the lines that run.
-    if (!std::regex_search(symbol,
-                           std::regex("^(_Z(Z?N?K?St|NK?9__gnu_cxx|TI|TS)|__.*llvm_pr|lprof)")))
+    // the rest counts what runs, for the coverage and the fuzzers.
+    if (!std::regex_search(
+            symbol, std::regex("^(_Z(Z?N?K?St|NK?9__gnu_cxx|TI|TS)|__.*(llvm_pr|sancov)|lprof)")))
       names.insert(readable(symbol.c_str()));
   }
   return names;

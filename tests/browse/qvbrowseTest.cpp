@@ -182,7 +182,7 @@ TEST_F(QvBrowseRefuses, InOneSentence) {
              {"drag tools Wood/saw a/b/c", {"\"tools\"", "\"a/b/c\""}},
              {"detail tools Wood/saw a/b/c", {"\"tools\"", "\"a/b/c\""}},
              {"detail tools Wood \"\"", {"\"tools\"", "no detail view"}},
-             {"run-action Close views plan", {"no action \"Close\""}},
+             {"run-action Close views plan", {"no action \"Close\"", "\"Open\", "}},
              {"run-action Open tools Wood/saw", {"\"Open\"", "not valid"}},
              {"run-action Open views plan --no-workspace", {"Qv::UiWorkspace*"}},
              {"run-action \"Open in Window\" views plan --no-workspace", {"Qv::UiWorkspace*"}}}) {

@@ -37,7 +37,10 @@ void HostActRegistry::perform(std::string const& name, RCShdPtr<SnItem const> co
       throw HostError("the action \"" + name + "\" is not valid for this item");
     return entry.action->performAction(first, second, SnSelection::create());
   }
-  throw HostError("there is no action \"" + name + "\"");
+  std::string known;
+  for (Entry const& entry : entries_)
+    known += (known.empty() ? "; there is \"" : ", \"") + entry.action->getName() + "\"";
+  throw HostError("there is no action \"" + name + "\"" + known);
 }
 
 Vector<LiString> HostActRegistry::getOptions(ActAction const& action,
