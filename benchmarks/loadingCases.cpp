@@ -3,8 +3,6 @@
 #include "hostFiles.h"
 #include "hostModule.h"
 
-#include <boost/dll/shared_library.hpp>
-
 namespace Qv {
 
 namespace {

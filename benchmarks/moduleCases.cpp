@@ -2,7 +2,6 @@
 
 #include "hostBrRegistry.h"
 #include "hostModule.h"
-#include "hostResources.h"
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
 #include "omUtil.h"

@@ -136,8 +136,8 @@ void DetailPage::printDump(Json const& widgets) {
         fmt::format("{}{} \"{}\"", indent, textOf(widget, "class"), textOf(widget, "name"));
     for (auto const& [key, value] : widget.items())
       if (key != "class" && key != "name" && key != "children")
-        line +=
-            fmt::format(" {}={}", key, value.dump(-1, ' ', false, Json::error_handler_t::replace));
+        line += fmt::format(" {}={}", key,
+                            printable(value.dump(-1, ' ', false, Json::error_handler_t::replace)));
     printText("{}\n", line);
     for (Json const& child : widget["children"])
       self(self, child, indent + "  ");

@@ -126,6 +126,15 @@ std::vector<fs::path> findPlugins(fs::path const& directory) {
 
 } // namespace
 
+bool hasFrei0rTools(fs::path const& directory) {
+  try {
+    findPlugins(directory);
+    return true;
+  } catch (HostError const&) {
+    return false;
+  }
+}
+
 ToolSource::Tool readFrei0rTool(fs::path const& file) {
   Plugin const plugin(file);
   f0r_plugin_info_t const info = plugin.getInfo();
@@ -138,7 +147,6 @@ ToolSource::Tool readFrei0rTool(fs::path const& file) {
     throw HostError(fmt::format("it claims to have {} parameters", info.num_params));
 
   ToolSource::Tool tool;
-  tool.facts.name = file.stem();
   tool.facts.category = category;
   std::string const author = saidBy(info.author);
   tool.facts.infoTexts = {saidBy(info.name), saidBy(info.explanation),
@@ -156,24 +164,25 @@ ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache, Frei0r
   std::vector<fs::path> unread;
   for (fs::path const& file : findPlugins(directory)) {
     stamps.push_back(PluginCache::getStamp(file));
-    PluginReading const* const kept = cache.find(file, stamps.back());
-    bool const cached = kept && (kept->failure.empty() || !scan.retry);
-    source.plugins.push_back({file, "", cached});
-    if (!cached)
+    PluginCache::Entry const* const kept = cache.find(file, stamps.back());
+    bool const again = kept && kept->earlier && !kept->reading.failure.empty() && scan.retry;
+    if (!kept || again)
       unread.push_back(file);
+    source.plugins.push_back({.file = file});
   }
 
   std::vector<PluginReading> const readings = scanPlugins(unread, &readFrei0rTool, scan.limit);
-  auto next = readings.begin();
+  std::size_t next = 0;
   auto stamp = stamps.begin();
   for (ToolSource::Plugin& plugin : source.plugins) {
-    if (!plugin.cached)
-      cache.keep(plugin.file, *stamp, *next++);
-    PluginReading const& reading = *cache.find(plugin.file, *stamp++);
-    plugin.failure = reading.failure;
+    if (next < unread.size() && unread[next] == plugin.file)
+      cache.keep(plugin.file, *stamp, readings[next++]);
+    PluginCache::Entry const& kept = *cache.find(plugin.file, *stamp++);
+    plugin.failure = kept.reading.failure;
+    plugin.cached = kept.earlier;
     if (!plugin.failure.empty())
       continue;
-    source.tools.push_back(reading.tool);
+    source.tools.push_back(kept.reading.tool);
     source.tools.back().facts.name = plugin.file.stem();
   }
   if (!unread.empty())

@@ -24,7 +24,10 @@ struct Frei0rScan {
 ToolSource readFrei0rTools(std::filesystem::path const& directory, PluginCache& cache,
                            Frei0rScan const& scan = {});
 
-/// Loads one plug-in into this process, asks it and unloads it.
+/// Whether a directory can be read and holds a plug-in.
+bool hasFrei0rTools(std::filesystem::path const& directory);
+
+/// Loads one plug-in into this process, asks it for all but its name, and unloads it.
 /// @throws HostError with nothing but the reason when it is none or does not say what it must.
 ToolSource::Tool readFrei0rTool(std::filesystem::path const& file);
 

@@ -1,6 +1,5 @@
 #include "commands.h"
 #include "frei0rTools.h"
-#include "hostError.h"
 #include "hostJournal.h"
 #include "hostModule.h"
 #include "hostResources.h"
@@ -223,9 +222,8 @@ int run(CommandLine& line) {
   fs::path const resources = resourceDirectory();
   HostResources::getInstance().setDirectory(resources);
   if (line.tools.empty()) {
-    std::error_code error;
-    bool const none = fs::is_empty(frei0rDirectory, error) || error;
-    line.tools = {none ? resources / "sampleCatalogue.json" : "frei0r"};
+    fs::path const sample = resources / "sampleCatalogue.json";
+    line.tools = {hasFrei0rTools(frei0rDirectory) ? "frei0r" : sample.string()};
   }
   Progress const progress;
   registerTools(line);
@@ -268,6 +266,9 @@ int main(int argc, char** argv) {
       return status;
     }
     return run(line);
+  } catch (std::bad_alloc const&) {
+    printProblem("there is not enough memory");
+    return Failure;
   } catch (std::exception const& error) {
     printProblem(error.what());
     return Failure;

@@ -21,10 +21,16 @@ namespace Qv {
 
 namespace {
 
-/// The number of characters in UTF-8 text.
+/// How many columns of a terminal printable text takes.
 std::size_t width(std::string const& text) {
-  return std::size_t(std::count_if(text.begin(), text.end(),
-                                   [](unsigned char byte) { return (byte & 0xC0) != 0x80; }));
+  std::size_t columns = 0;
+  auto const* rest = reinterpret_cast<utf8proc_uint8_t const*>(text.c_str());
+  while (*rest) {
+    utf8proc_int32_t character = 0;
+    rest += utf8proc_iterate(rest, -1, &character);
+    columns += std::size_t(utf8proc_charwidth(character));
+  }
+  return columns;
 }
 
 /// Whether stdout is a terminal; it was one when it goes through a pager.
@@ -33,22 +39,24 @@ bool outputIsTerminal() {
   return terminal;
 }
 
-/// With which the shell tells that there is no such program.
+/// With which the shell tells that it cannot run a program, or that there is none.
+constexpr int NotRun = 126;
 constexpr int NotFound = 127;
 
 bool pagerWanted = false;
 /// The pager's input; null while there is no pager.
 FILE* pager = nullptr;
+/// For the shell; empty for no pager.
+std::string pagerCommand;
 
 void startPager() {
   char const* const named = std::getenv("PAGER");
-  std::string const command =
-      named ? named : "if command -v less >/dev/null; then exec less; else exec cat; fi";
-  if (command.empty())
+  pagerCommand = named ? named : "if command -v less >/dev/null; then exec less; else exec cat; fi";
+  if (pagerCommand.empty())
     return;
   // Ends by itself when all fits on the screen, lets colours through and leaves them there.
   setenv("LESS", "FRX", 0);
-  pager = popen(command.c_str(), "we");
+  pager = popen(pagerCommand.c_str(), "we");
   if (!pager)
     return;
   dup2(fileno(pager), STDOUT_FILENO);
@@ -93,6 +101,8 @@ void refuseWriting() {
   dup2(nowhere, STDOUT_FILENO);
   close(nowhere);
   std::clearerr(stdout);
+  std::signal(SIGINT, SIG_DFL);
+  std::signal(SIGQUIT, SIG_DFL);
 }
 
 } // namespace
@@ -140,10 +150,10 @@ Paging::~Paging() { endPager(); }
 void Paging::end() {
   flushOutput();
   int const status = endPager();
-  if (WIFEXITED(status) && WEXITSTATUS(status) == NotFound)
+  if (WIFEXITED(status) && (WEXITSTATUS(status) == NotRun || WEXITSTATUS(status) == NotFound))
     throw HostError(
-        fmt::format("cannot show the result: there is no pager \"{}\", which PAGER names",
-                    std::getenv("PAGER")));
+        fmt::format("cannot show the result: the pager \"{}\" cannot be run; PAGER names another",
+                    pagerCommand));
 }
 
 Terminal::Terminal() : colours_(outputIsTerminal() && !std::getenv("NO_COLOR")) {}

@@ -49,6 +49,7 @@ void PluginCache::load() {
     Entry& entry = entries_[plugin];
     entry.stamp = readText(stream);
     entry.reading = PluginReading::read(stream);
+    entry.earlier = true;
   }
 }
 
@@ -59,14 +60,15 @@ std::string PluginCache::getStamp(fs::path const& plugin) {
   return fmt::format("{} {}.{:09}", facts.st_size, facts.st_mtim.tv_sec, facts.st_mtim.tv_nsec);
 }
 
-PluginReading const* PluginCache::find(fs::path const& plugin, std::string const& stamp) const {
+PluginCache::Entry const* PluginCache::find(fs::path const& plugin,
+                                            std::string const& stamp) const {
   auto const found = entries_.find(plugin);
-  return found == entries_.end() || found->second.stamp != stamp ? nullptr : &found->second.reading;
+  return found == entries_.end() || found->second.stamp != stamp ? nullptr : &found->second;
 }
 
 void PluginCache::keep(fs::path const& plugin, std::string const& stamp,
                        PluginReading const& reading) {
-  entries_[plugin] = {stamp, reading};
+  entries_[plugin] = {stamp, reading, false};
 }
 
 void PluginCache::save() const {

@@ -19,9 +19,16 @@ public:
   /// What tells whether a plug-in file is still the same: its size and when it was modified. To be
   /// taken before the plug-in is read.
   static std::string getStamp(std::filesystem::path const& plugin);
-  /// The reading of a plug-in file, given by its absolute path, that had this stamp; null when
-  /// there is none.
-  PluginReading const* find(std::filesystem::path const& plugin, std::string const& stamp) const;
+  /// What is kept of a plug-in file.
+  struct Entry {
+    std::string stamp;
+    PluginReading reading;
+    /// Whether an earlier run found out.
+    bool earlier;
+  };
+  /// What is kept of a plug-in file, given by its absolute path, that had this stamp; null when
+  /// there is nothing. Valid until the plug-in is kept again.
+  Entry const* find(std::filesystem::path const& plugin, std::string const& stamp) const;
   void keep(std::filesystem::path const& plugin, std::string const& stamp,
             PluginReading const& reading);
   /// Writes the file, whole or not at all, without the plug-ins that are gone. Where that cannot be
@@ -29,11 +36,6 @@ public:
   void save() const;
 
 private:
-  struct Entry {
-    std::string stamp;
-    PluginReading reading;
-  };
-
   void load();
 
   std::filesystem::path file_;

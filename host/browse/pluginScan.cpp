@@ -59,10 +59,10 @@ private:
   int number_;
 };
 
-/// Cuts this process off from everything but the pipe: from the input, the output and the terminal
-/// of its parent, and from what the parent does with signals.
-/// @returns where the pipe is now.
-int isolate(int pipe, pid_t parent) {
+/// Cuts this process off from everything but the pipe for its answers: from the input, the output
+/// and the terminal of its parent, and from what the parent does with signals.
+/// @param answers lies above the standard streams, whose place `nowhere` takes.
+void isolate(int answers, int nowhere, pid_t parent) {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (getppid() != parent)
     _exit(EXIT_FAILURE);
@@ -76,21 +76,14 @@ int isolate(int pipe, pid_t parent) {
   sigemptyset(&none);
   sigprocmask(SIG_SETMASK, &none, nullptr);
 
-  // The pipe may have taken the place of a standard stream that was closed.
-  int const answers = fcntl(pipe, F_DUPFD, STDERR_FILENO + 1);
-  int const nowhere = open("/dev/null", O_RDWR);
-  if (answers < 0 || nowhere < 0)
-    _exit(EXIT_FAILURE);
   for (int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
     dup2(nowhere, stream);
   close_range(STDERR_FILENO + 1, unsigned(answers) - 1, 0);
   close_range(unsigned(answers) + 1, ~0U, 0);
-  return answers;
 }
 
 /// What the child process does. Ends without destructors and exit handlers, which are the parent's.
-[[noreturn]] void answer(fs::path const& file, ReadTool readTool, int pipe, pid_t parent) noexcept {
-  int const answers = isolate(pipe, parent);
+[[noreturn]] void answer(fs::path const& file, ReadTool readTool, int answers) noexcept {
   PluginReading reading;
   try {
     reading.tool = readTool(file);
@@ -122,15 +115,20 @@ public:
   /// @throws HostError when no process can be started.
   Child(std::size_t index, fs::path const& file, ReadTool readTool, Clock::time_point deadline)
       : index_(index), deadline_(deadline) {
+    // All that can fail for want of a descriptor is done here, where it is not the plug-in's fault.
     std::array<int, 2> ends = {-1, -1};
-    int const failed = pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK);
+    bool ready = pipe2(ends.data(), O_CLOEXEC) == 0;
     answers_.reset(ends[0]);
-    Descriptor const write(ends[1]);
+    Descriptor const pipe(ends[1]);
+    ready = ready && fcntl(answers_.get(), F_SETFL, O_NONBLOCK) == 0;
+    // The pipe may have taken the place of a standard stream that was closed.
+    Descriptor const write(ready ? fcntl(pipe.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1) : -1);
+    Descriptor const nowhere(write.get() < 0 ? -1 : open("/dev/null", O_RDWR | O_CLOEXEC));
     pid_t const parent = getpid();
-    process_ = failed ? -1 : fork();
+    process_ = nowhere.get() < 0 ? -1 : fork();
     if (process_ == 0) {
-      fcntl(write.get(), F_SETFL, 0);
-      answer(file, readTool, write.get(), parent);
+      isolate(write.get(), nowhere.get(), parent);
+      answer(file, readTool, write.get());
     }
     if (process_ > 0)
       end_.reset(pidfd_open(process_, 0));
@@ -241,11 +239,12 @@ std::vector<pollfd> wait(std::vector<std::unique_ptr<Child>> const& children) {
     events.insert(events.end(), own.begin(), own.end());
     deadline = std::min(deadline, child->getDeadline());
   }
-  auto const left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
-  // An interrupted wait tells of nothing, and is begun again.
-  if (poll(events.data(), events.size(), int(std::max<long>(0, left.count()))) < 0)
-    for (pollfd& event : events)
-      event.revents = 0;
+  int found = 0;
+  do {
+    auto const left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    found = poll(events.data(), events.size(), int(std::max<long>(0, left.count())));
+    // This process may have been stopped beyond the deadline; the children were not.
+  } while (found < 0 && errno == EINTR);
   return events;
 }
 

@@ -4,7 +4,6 @@
 #include "hostFiles.h"
 
 #include <algorithm>
-#include <array>
 #include <fmt/format.h>
 #include <initializer_list>
 #include <nlohmann/json.hpp>
@@ -294,7 +293,10 @@ ToolSource readToolCatalogue(fs::path const& file) {
     ToolSource source = takeCatalogue(catalogue);
     source.origin = file;
     return source;
-  } catch (Fault const& fault) {
+  } catch (Fault& fault) {
+    // An error's text would end at a zero byte of a key.
+    for (std::size_t at = 0; (at = fault.place.find('\0')) != std::string::npos;)
+      fault.place.replace(at, 1, "\\x00");
     throw HostError(fmt::format("the catalogue \"{}\" has a fault at {}: {}", file.string(),
                                 fault.place, fault.reason));
   }

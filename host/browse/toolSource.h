@@ -32,9 +32,9 @@ struct ToolSource {
     /// An absolute path.
     std::filesystem::path file;
     /// Why it is left out; empty when it is not.
-    std::string failure;
+    std::string failure = {};
     /// Whether an earlier run found out.
-    bool cached;
+    bool cached = false;
   };
 
   /// In the order in which they are listed; the same name may come again.

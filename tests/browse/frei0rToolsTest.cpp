@@ -52,7 +52,6 @@ TEST_F(Frei0rTools, SayWhatThePluginSays) {
   // In this process, from a child process, and from the cache.
   for (ToolSource::Tool const& tool :
        {readFrei0rTool(file), read().tools.at(0), read().tools.at(0)}) {
-    EXPECT_EQ(tool.facts.name, "clouds");
     EXPECT_THAT(tool.facts.infoTexts,
                 ElementsAre("Clouds/Sky", "Paints clouds.", "A. Painter, version 2.10"));
     EXPECT_EQ(tool.tooltip, "Moving (bool): Whether they move<br>"

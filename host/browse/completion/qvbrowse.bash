@@ -74,7 +74,11 @@ _qvbrowse_ask() {
 _qvbrowse_offer() {
   local typed=${cur//[\\\"\']/} line
   while IFS= read -r line; do
-    [[ $line && $line == "$typed"* ]] && COMPREPLY+=("$(printf %q "$line${2-}")")
+    [[ $line && $line == "$typed"* ]] || continue
+    line+=${2-}
+    # Within quotes, the shell itself quotes what it inserts.
+    [[ $cur == [\"\']* ]] || line=$(printf %q "$line")
+    COMPREPLY+=("$line")
   done <<<"$1"
 }
 
@@ -94,9 +98,11 @@ _qvbrowse_paths() {
 # What --tools takes.
 _qvbrowse_sources() {
   if [[ $cur == frei0r:* ]]; then
-    local IFS=$'\n'
+    local directory
     compopt -o nospace
-    COMPREPLY=($(compgen -d -P frei0r: -S / -- "${cur#frei0r:}"))
+    while IFS= read -r directory; do
+      COMPREPLY+=("frei0r:$(printf %q "$directory")/")
+    done < <(compgen -d -- "$(_qvbrowse_expand "${cur#frei0r:}")")
     __ltrim_colon_completions "$cur"
     return
   fi

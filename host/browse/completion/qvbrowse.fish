@@ -42,7 +42,7 @@ end
 function __qvbrowse_paths
     set -l arguments (__qvbrowse_arguments)
     set -l scheme $arguments[$argv[1]]
-    set -l parent (string replace -rf '/[^/]*$' '' -- (commandline -ct))
+    set -l parent (string replace -rf '/[^/]*$' '' -- (commandline -ct | string unescape))
     set -l children (__qvbrowse_ask path ls $scheme "$parent" --filter items)
     if set -q children[1]
         string join \n $children

@@ -6,11 +6,10 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
-#include <vector>
 
 namespace Qv {
 
-/// An image in memory.
+/// What an image file holds; nothing here draws it.
 class QV_EXPORT HostImage final : public WsManagedImage {
 public:
   /// Reads a TIFF file. Null when there is no such file or it holds no readable image.
@@ -21,18 +20,14 @@ public:
   /// In pixels.
   std::uint32_t getWidth() const { return width_; }
   std::uint32_t getHeight() const { return height_; }
-  /// Row by row from the top, one number a pixel: red in the lowest byte, then green, blue, alpha.
-  std::vector<std::uint32_t> const& getPixels() const { return pixels_; }
 
 private:
-  HostImage(std::string name, std::uint32_t width, std::uint32_t height,
-            std::vector<std::uint32_t> pixels);
+  HostImage(std::string name, std::uint32_t width, std::uint32_t height);
   ~HostImage() override;
 
   std::string name_;
   std::uint32_t width_;
   std::uint32_t height_;
-  std::vector<std::uint32_t> pixels_;
 };
 
 } // namespace Qv
