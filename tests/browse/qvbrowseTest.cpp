@@ -2,8 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <fcntl.h>
 #include <nlohmann/json.hpp>
+#include <poll.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace Qv {
 
@@ -196,13 +200,23 @@ class QvBrowseSources : public QvBrowse {};
 TEST_F(QvBrowseSources, AreCombined) {
   install(CLOUDSPLUGIN_FILE, "clouds.so");
   write("more.json", R"({"tools": [{"name": "axe", "category": "Wood"},
+                                   {"name": "größe", "category": "Wood", "tooltip": "Late"},
                                    {"name": "saw", "category": "Wood", "tooltip": "Another"}]})");
   json const tools =
       browseJson("--tools more.json --tools frei0r:plugins tree tools").at("children");
   EXPECT_THAT(all(tools, "name"), ElementsAre("Wood", "Kit", "Empty", "Wood", "Source"));
-  EXPECT_THAT(all(tools[0]["children"], "name"), ElementsAre("saw", "größe", "axe", "saw"));
-  EXPECT_EQ(browseJson("--tools more.json show tools Wood/saw").at("tooltip"),
-            "Cuts wood.<br>Mind your<br>fingers.");
+  EXPECT_THAT(all(tools[0]["children"], "name"),
+              ElementsAre("saw", "größe", "axe", "größe", "saw"));
+  for (auto const& [tool, tooltip] :
+       {std::pair{"saw", "Cuts wood.<br>Mind your<br>fingers."}, {"größe", "<br>Late"}})
+    EXPECT_EQ(browseJson(std::string("--tools more.json show tools Wood/") + tool).at("tooltip"),
+              tooltip);
+}
+
+TEST_F(QvBrowseSources, AreThePluginsOfThisMachineWhenNoneIsNamed) {
+  std::vector<std::string> const files = all(json::parse(run("plugins --json").out), "file");
+  EXPECT_THAT(files, Not(testing::IsEmpty()));
+  EXPECT_THAT(files, testing::Each(testing::StartsWith("/usr/lib/frei0r-1/")));
 }
 
 TEST_F(QvBrowseSources, BringViewsOrGetTheOwnOnes) {
@@ -212,6 +226,25 @@ TEST_F(QvBrowseSources, BringViewsOrGetTheOwnOnes) {
              {"--tools none.json --tools catalogue.json", {"plan", "übersichtsplan"}}})
     EXPECT_EQ(all(json::parse(result(run(sources + " --json ls views --unsorted"))), "path"),
               views);
+}
+
+TEST_F(QvBrowseSources, KeepPluginsAwayFromAllThatIsOpen) {
+  install(FORKPLUGIN_FILE, "fork.so");
+  install(GARBLEPLUGIN_FILE, "garble.so");
+  install(PRINTPLUGIN_FILE, "print.so");
+  std::string const life = directory_ / "life";
+  mkfifo(life.c_str(), 0600);
+  pollfd lives = {open(life.c_str(), O_RDONLY | O_NONBLOCK), POLLIN, 0};
+  setenv("QV_LIFE", life.c_str(), 1);
+  ProgramRun const shown = runOnTerminal("-u NO_COLOR", "--tools frei0r:plugins plugins 9>other");
+  unsetenv("QV_LIFE");
+  EXPECT_EQ(shown.status, 3);
+  EXPECT_THAT(shown.out, Not(HasSubstr("whim")));
+  EXPECT_EQ(read("other"), "");
+  // What a plug-in started ends with it.
+  poll(&lives, 1, 10000);
+  EXPECT_EQ(lives.revents, POLLHUP);
+  close(lives.fd);
 }
 
 TEST_F(QvBrowseSources, LeaveOutPluginsThatCannotBeRead) {
@@ -447,6 +480,36 @@ TEST_F(QvBrowseText, DrawsTreesAndAlignsTables) {
                         "                        fingers.\n"));
 }
 
+TEST_F(QvBrowseText, TellsEachResultLineByLine) {
+  write("wide.json", R"({"tools": [{"name": "漢字", "category": "e\u0301"}]})");
+  for (auto const& [arguments, lines] : Cases{
+           {"startup",
+            {"#   Operation                       Key                         Detail\n",
+             "\n21  InBuildInfoUtil::registerInfo   libQvpluginBrowserQvmodule  8.0\n"}},
+           {"packages",
+            {"Package                Depends on\n", "\ndatamgt                base, resmgt\n",
+             "\nproduct            Halvard Ostrel Library\n",
+             "\nbuildFlavor        opt.x86_64.intel\n"}},
+           {"plugins", {"State  Cached  File  Reason\n"}},
+           {"search tools wood", {"Type           Name  Path\nTool Category  Wood  Wood\n"}},
+           // In columns of the terminal.
+           {"--tools wide.json search tools 漢", {"Type  Name  Path\nTool  漢字  e\u0301/漢字\n"}},
+           {"actions views plan",
+            {"Action          Valid  Dynamic state\nOpen            yes    0\n"}},
+           {"detail tools Wood/saw Wood",
+            {"\"Wood/saw\"\nPage ", "\n\n\"Wood\" (not understood by the view)\nPage "}},
+           {"detail --dump tools Wood/saw",
+            {"\n    Qv::UiLabel \"FieldValue0\" text=\"Hand saw\" width=340 height=24 "
+             "colors={}\n"}},
+           {"drag views plan", {"\n  arrives: view \"plan\"\n"}}}) {
+    std::string const text = result(browse(arguments));
+    for (std::string const& line : lines)
+      EXPECT_THAT(text, HasSubstr(line)) << arguments;
+  }
+  EXPECT_EQ(browse("drag tools Wood").out, "\"Wood\"\n  handler: Qv::PbrToolDndHandler\n"
+                                           "  accepted: no, cut: no, copy: no, drop: no\n");
+}
+
 TEST_F(QvBrowseText, EscapesControlCharacters) {
   std::string const raw = "a\x1b[31m\nb\x7f";
   write("raw.json",
@@ -464,6 +527,8 @@ TEST_F(QvBrowseText, EscapesControlCharacters) {
     EXPECT_THAT(text, Not(HasSubstr("\nb")));
     EXPECT_EQ(text.find_first_of("\x1b\x7f"), std::string::npos);
   }
+  std::string const dump = result(run("--tools raw.json detail --dump " + tool));
+  EXPECT_EQ(dump.find_first_of("\x1b\x7f"), std::string::npos);
 }
 
 TEST_F(QvBrowseText, IsColouredOnATerminalOnly) {
@@ -503,9 +568,11 @@ TEST_F(QvBrowseText, GoesThroughThePagerOnATerminal) {
             "Tools  [Tools Folder]\n");
   EXPECT_EQ(runWithPager("true", "drag tools Wood").status, 1);
 
-  ProgramRun const missing = runWithPager("no-such-pager", "ls tools");
-  EXPECT_EQ(missing.status, 1);
-  EXPECT_THAT(missing.err, HasSubstr("\"no-such-pager\""));
+  for (std::string const pager : {"no-such-pager", "./many.json"}) {
+    ProgramRun const missing = runWithPager(pager, "ls tools");
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_THAT(missing.err, HasSubstr("\"" + pager + "\""));
+  }
 }
 
 TEST_F(QvBrowseText, TellsWhatIsUnderWayOnATerminalOnly) {

@@ -25,7 +25,8 @@ public:
   /// What the engine yields.
   using Element = typename Container::value_type;
 
-  /// Stands on the first element. @param container owns the container, which must not be null.
+  /// Stands on the first element. @param container owns the container.
+  /// @throws ExNullPtr when there is none.
   explicit IteratorSTL(StrongPtr const& container)
       : container_(container), position_(container_->begin()) {}
 
@@ -93,6 +94,7 @@ template <class Container, class StrongPtr, class Accessor>
 inline IteratorSTL<Container, StrongPtr, Accessor>::~IteratorSTL() = default;
 
 /// An iterator over a container that it shares; it stands on the first element.
+/// @throws ExNullPtr when there is no container.
 template <class Container>
 Iterator<typename Container::value_type> makeIterator(RCStrongPtr<Container> const& container) {
   using Element = typename Container::value_type;

@@ -17,7 +17,7 @@ public:
   ~BrServer() override;
   /// A new server of the same class, owned by the caller.
   virtual BrServer* clone() const = 0;
-  /// The node for a scheme path.
+  /// The node for a scheme path. @param message the module leaves it as it is.
   virtual RCShdPtr<BrNode> getNode(LiString const& path, LiString& message) = 0;
   /// The node for an item of this server.
   virtual RCShdPtr<BrNode> getNodeFromBrowsable(RCShdPtr<BrBrowsable> const& browsable,

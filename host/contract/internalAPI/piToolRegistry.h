@@ -11,11 +11,12 @@ class QV_EXPORT PiToolRegistry {
 public:
   static PiToolRegistry& getInstance();
 
-  /// Null when no tool has that name.
+  /// Null when no tool has that name. @param flag the module passes false.
   virtual RCShdPtr<PiTool const> findTool(std::string const& name, bool flag) = 0;
-  /// Null when no tool has that name.
+  /// The tool that a drag carries under that name; null when there is none.
   virtual RCShdPtr<PiTool const> getTool(std::string const& name) = 0;
   /// Every tool for which `predicate` holds, in the order of registration; none is null.
+  /// @param flag the module passes true.
   virtual Iterator<RCShdPtr<PiTool const>>
   getTools(PrdPredicate<RCShdPtr<PiTool const>> const& predicate, bool flag) = 0;
   /// The names of the categories, in the order in which they are shown.

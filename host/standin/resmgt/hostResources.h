@@ -11,7 +11,7 @@ class QV_EXPORT HostResources {
 public:
   static HostResources& getInstance();
 
-  /// To be called before a package is initialised.
+  /// To be called before a package is initialised; until then, it is the current directory.
   void setDirectory(std::filesystem::path const& directory) { directory_ = directory; }
   /// The path of the file of that name, whether there is one or not.
   std::filesystem::path locate(std::string const& fileName) const { return directory_ / fileName; }

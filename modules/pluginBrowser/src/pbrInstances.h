@@ -1,10 +1,10 @@
 #pragma once
 
 // The template instances that the module exports; each is made once, in pbrInstances.cpp, as are
-// the items of a drag that pbrDraggedItems.h declares. Every header of the module includes this one
-// before any of the host's: g++ silently leaves an instance out of the exports when it was made
-// implicitly before its declaration here, or when one of its arguments is hidden, so the classes
-// are declared visible.
+// the items of a drag that pbrDraggedItems.h declares. A header of the module that includes any of
+// the host's includes this one before: g++ silently leaves an instance out of the exports when it
+// was made implicitly before its declaration here, or when one of its arguments is hidden, so the
+// classes are declared visible.
 
 #include "iteratorSTL.imp.h"
 
