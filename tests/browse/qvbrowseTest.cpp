@@ -236,7 +236,8 @@ TEST_F(QvBrowseSources, KeepPluginsAwayFromAllThatIsOpen) {
   mkfifo(life.c_str(), 0600);
   pollfd lives = {open(life.c_str(), O_RDONLY | O_NONBLOCK), POLLIN, 0};
   setenv("QV_LIFE", life.c_str(), 1);
-  ProgramRun const shown = runOnTerminal("-u NO_COLOR", "--tools frei0r:plugins plugins 9>other");
+  ProgramRun const shown =
+      runOnTerminal("-u NO_COLOR", "--tools frei0r:plugins plugins 3>other 9>&3");
   unsetenv("QV_LIFE");
   EXPECT_EQ(shown.status, 3);
   EXPECT_THAT(shown.out, Not(HasSubstr("whim")));
