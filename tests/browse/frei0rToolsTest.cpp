@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <array>
 #include <dlfcn.h>
 
 namespace Qv {
@@ -16,6 +17,7 @@ namespace fs = std::filesystem;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 
 class Frei0rTools : public testing::Test, protected TemporaryDirectory {
 protected:
@@ -90,13 +92,16 @@ TEST_F(Frei0rTools, SurviveTheBadOnesAmongThem) {
       {"it garbles its answer", install(GARBLEPLUGIN_FILE, "e.so")},
       {"it answers with more than 1048576 bytes", install(FLOODPLUGIN_FILE, "f.so")},
       {"it gives no name", install(UNNAMEPLUGIN_FILE, "g.so")},
-      {"it has no function f0r_get_plugin_info", install(HALFPLUGIN_FILE, "h.so")},
-      {"file too short", write("i.so", "no plug-in")},
-      {"invalid ELF header", write("j.so", std::string(1000, 'x'))},
-      {"", install(RENAMEPLUGIN_FILE, "k.so")},
-      {"", install(PRINTPLUGIN_FILE, "l.so")},
-      {"", install(FORKPLUGIN_FILE, "m.so")},
-      {"", install(CLOUDSPLUGIN_FILE, "n.so")}};
+      {"its type 17 is unknown", install(MISTYPEPLUGIN_FILE, "h.so")},
+      {"it claims to have -1 parameters", install(OWEPLUGIN_FILE, "i.so")},
+      {"it claims to have 1001 parameters", install(BOASTPLUGIN_FILE, "j.so")},
+      {"it has no function f0r_get_plugin_info", install(HALFPLUGIN_FILE, "k.so")},
+      {"file too short", write("l.so", "no plug-in")},
+      {"invalid ELF header", write("m.so", std::string(1000, 'x'))},
+      {"", install(RENAMEPLUGIN_FILE, "n.so")},
+      {"", install(PRINTPLUGIN_FILE, "o.so")},
+      {"", install(FORKPLUGIN_FILE, "p.so")},
+      {"", install(CLOUDSPLUGIN_FILE, "q.so")}};
 
   for (bool const cached : {false, true}) {
     ToolSource const source = read({.limit = std::chrono::milliseconds(2500)});
@@ -108,7 +113,7 @@ TEST_F(Frei0rTools, SurviveTheBadOnesAmongThem) {
     }
     ASSERT_EQ(source.tools.size(), 4U);
     EXPECT_EQ(source.tools[0].facts.infoTexts[0], "caf\xe9");
-    EXPECT_EQ(source.tools[3].facts.name, "n");
+    EXPECT_EQ(source.tools[3].facts.name, "q");
   }
 }
 
@@ -146,10 +151,14 @@ TEST_F(Frei0rCache, SparesTheReadingOfWhatDidNotChange) {
   EXPECT_EQ(loads(), 3);
 
   fs::remove(counting_);
-  EXPECT_EQ(read().tools.size(), 0U);
+  EXPECT_EQ(read({.retry = true}).tools.size(), 0U);
+  EXPECT_THAT(TemporaryDirectory::read("cache/plugins"),
+              AllOf(HasSubstr("recovering.so"), Not(HasSubstr("counting.so"))));
 }
 
 TEST_F(Frei0rCache, IsIgnoredWhenItCannotBeUnderstood) {
+  // The last text of the file is not empty.
+  install(CLOUDSPLUGIN_FILE, "z.so");
   read();
   std::string const whole = TemporaryDirectory::read("cache/plugins");
   std::string other = whole;
@@ -159,18 +168,30 @@ TEST_F(Frei0rCache, IsIgnoredWhenItCannotBeUnderstood) {
        {std::string(), std::string("garbage"), other, whole.substr(0, whole.size() - 1),
         whole.substr(0, whole.find("counting") + 20)}) {
     write("cache/plugins", damaged);
-    EXPECT_EQ(read().tools.size(), 1U);
+    EXPECT_EQ(read().tools.size(), 2U);
     EXPECT_EQ(loads(), ++expected);
     EXPECT_EQ(TemporaryDirectory::read("cache/plugins"), whole);
   }
   // A directory in place of the file, and in place of its directory a file.
   fs::remove(cache_);
   fs::create_directories(cache_ / "full");
-  EXPECT_EQ(read().tools.size(), 1U);
+  EXPECT_EQ(read().tools.size(), 2U);
   fs::remove_all(cache_.parent_path());
   write("cache", "");
-  EXPECT_EQ(read().tools.size(), 1U);
+  EXPECT_EQ(read().tools.size(), 2U);
   EXPECT_EQ(loads(), expected + 2);
+}
+
+TEST_F(Frei0rCache, IsTheUsersOwnFile) {
+  using User = std::array<char const*, 3>;
+  for (auto const& [cache, home, file] :
+       {User{"/c", "/h", "/c/qvbrowse/plugins"}, User{"c", nullptr, ""}, User{nullptr, "", ""},
+        User{"", "/h", "/h/.cache/qvbrowse/plugins"}, User{"c", "/h", "/h/.cache/qvbrowse/plugins"},
+        User{nullptr, "/h", "/h/.cache/qvbrowse/plugins"}}) {
+    cache ? setenv("XDG_CACHE_HOME", cache, 1) : unsetenv("XDG_CACHE_HOME");
+    home ? setenv("HOME", home, 1) : unsetenv("HOME");
+    EXPECT_EQ(PluginCache::getUserFile(), file);
+  }
 }
 
 TEST_F(Frei0rCache, KeepsFailuresUntilTheyAreRetried) {

@@ -176,6 +176,11 @@ TEST_F(LoadedModule, registersNullImagesToo) {
   EXPECT_EQ(std::count_if(all.begin(), all.end(),
                           [](auto const& call) { return call.detail == "no image"; }),
             8);
+  Calls const& calls = journal_.getEntries();
+  EXPECT_EQ(
+      std::count(calls.begin(), calls.end(),
+                 HostJournal::Entry{"UiIconRegistry::loadImage", "folder.tif", "no such image"}),
+      3);
   EXPECT_EQ(all.back().key, "Open in Window");
 }
 

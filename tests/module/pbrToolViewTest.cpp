@@ -132,6 +132,8 @@ TEST_F(ToolView, showsEachItemInPlaceOfTheLast) {
     auto const image = icon->getImage().checkedCast<HostImage>();
     EXPECT_EQ(image ? image->getName() : "", item.image);
   }
+  EXPECT_FALSE(split->openPane(RCShdPtr<UiPane>(new UiPane("foreign"))));
+  EXPECT_EQ(split->getOpenPane(), icon);
   Browsable const item = tool("x/full");
   journal_.start();
   detail.setContent(item, noSelection);
@@ -203,15 +205,46 @@ TEST_F(ToolViewPage, isRefusedWithTheReason) {
   HostResources::getInstance().setDirectory(directory_);
   auto const refusal = [] { return refusalOf([] { PbrToolView().buildUi(noSelection); }); };
   EXPECT_THAT(refusal(), testing::HasSubstr("in \"" + directory_.string() + "\""));
+  auto const in = [](std::string const& text) { return "<resources>" + text + "</resources>"; };
   for (auto const& [text, reason] : std::map<std::string, std::string>{
            {"<resources>", "it is no XML"},
-           {"<resources/>", "describes no page \"InfoCt\""},
-           {"<resources><label name='InfoCt'/></resources>", "describes \"InfoCt\" as a label"},
-           {"<resources><page name='InfoCt'/></resources>", "no label \"FieldTitle0\""}}) {
+           {"<page/>", "its root is <page> instead of <resources>"},
+           {"<resources/><page/>", "there is more than resources in it"},
+           {"<resources name='x'/>", "there is more than resources in it"},
+           {in(""), "describes no page \"InfoCt\""},
+           {in("<label name='InfoCt'/>"), "describes \"InfoCt\" as a label"},
+           {in("<page name='InfoCt'/>"), "no label \"FieldTitle0\""},
+           {in("<page name='InfoCt'/>text"), "there is text outside of its resources"},
+           {in("<page/>"), "a <page> has no name"},
+           {in("<page name='x'/><label name='x'/>"), "\"x\" is described twice"},
+           {in("<pane name='x'/>"), "\"x\" is a <pane>, which is no kind of resource"},
+           {in("<page name='x'>text</page>"), "\"x\" holds something"},
+           {in("<page name='x' depth='1'/>"), "\"x\" has an unknown attribute depth"},
+           {in("<page name='x' text='y'/>"), "\"x\" has an unknown attribute text"},
+           {in("<page name='x' width='1' width='1'/>"), "\"x\" has the attribute width twice"},
+           {in("<page name='x' width='1px'/>"), "\"x\" has the width \"1px\", which is no number"},
+           {in("<page name='x' width=''/>"), "\"x\" has the width \"\", which is no number"},
+           {in("<page name='x' height='-1'/>"), "\"x\" has the height \"-1\", which is no number"},
+           {in("<page name='x' background='1234567'/>"), "\"1234567\" instead of #rrggbb"},
+           {in("<page name='x' background='#12345'/>"), "\"#12345\" instead of #rrggbb"},
+           {in("<page name='x' background='#12345g'/>"), "\"#12345g\" instead of #rrggbb"}}) {
     write("bvTool.xml", text);
     EXPECT_THAT(refusal(), testing::HasSubstr("the resource file \"bvTool.xml\""));
     EXPECT_THAT(refusal(), testing::HasSubstr(reason));
   }
+}
+
+TEST_F(ToolViewPage, looksAsDescribed) {
+  HostResources::getInstance().setDirectory(directory_);
+  write("bvTool.xml", "<resources><page name='InfoCt'/><label name='x' width='12' "
+                      "height='34' background='#ff3300'/></resources>");
+  UiResTable const table(OsFilePath("bvTool.xml"));
+  auto const manager = BvDetailMgr::create(RCShdPtr<UiContainer>(), "InfoCt", &table);
+  RCShdPtr<UiLabel> const label = manager->createAndAddTitleLabel("x", &table);
+  EXPECT_EQ(label->getWidth(), 12);
+  EXPECT_EQ(label->getHeight(), 34);
+  EXPECT_EQ(label->getColors().at(UiWidget::BackgroundColor),
+            (CoRgbColorTyped<float>{1.0F, 0.2F, 0.0F}));
 }
 
 } // namespace

@@ -71,7 +71,11 @@ TEST_P(Server, givesTheNodeForAPath) {
   }
   EXPECT_THROW(server->getNode(GetParam().refusedPath, message), ExProgramAborted);
   EXPECT_EQ(message, "untouched");
-  EXPECT_EQ(server->getRootNode()->getBrowsable()->getPath(), "");
+  RCShdPtr<BrBrowsable> const root = server->getRootNode()->getBrowsable();
+  EXPECT_EQ(root->getPath(), "");
+  EXPECT_EQ(server->getNodeFromBrowsable(root, message)->getBrowsable(), root);
+  EXPECT_EQ(server->getParentPath("/a//b/c/"), "a/b");
+  EXPECT_EQ(server->getParentPath("a"), "");
 }
 
 template <class T> OPtr<BrServer> make() { return OPtr<BrServer>(new T); }
