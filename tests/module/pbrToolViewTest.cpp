@@ -236,15 +236,20 @@ TEST_F(ToolViewPage, isRefusedWithTheReason) {
 
 TEST_F(ToolViewPage, looksAsDescribed) {
   HostResources::getInstance().setDirectory(directory_);
-  write("bvTool.xml", "<resources><page name='InfoCt'/><label name='x' width='12' "
-                      "height='34' background='#ff3300'/></resources>");
+  std::string const look = " width='12' height='34' background='#ff3300'/>";
+  write("bvTool.xml", "<resources><page name='InfoCt'/><label name='x'" + look + "<page name='y'" +
+                          look + "</resources>");
   UiResTable const table(OsFilePath("bvTool.xml"));
-  auto const manager = BvDetailMgr::create(RCShdPtr<UiContainer>(), "InfoCt", &table);
-  RCShdPtr<UiLabel> const label = manager->createAndAddTitleLabel("x", &table);
-  EXPECT_EQ(label->getWidth(), 12);
-  EXPECT_EQ(label->getHeight(), 34);
-  EXPECT_EQ(label->getColors().at(UiWidget::BackgroundColor),
-            (CoRgbColorTyped<float>{1.0F, 0.2F, 0.0F}));
+  RCShdPtr<UiContainer> const nowhere;
+  auto const manager = BvDetailMgr::create(nowhere, "InfoCt", &table);
+  for (RCShdPtr<UiWidget> const& widget :
+       {RCShdPtr<UiWidget>(manager->createAndAddTitleLabel("x", &table)),
+        RCShdPtr<UiWidget>(UiSplitPane::create(nowhere, "y", &table))}) {
+    EXPECT_EQ(widget->getWidth(), 12);
+    EXPECT_EQ(widget->getHeight(), 34);
+    EXPECT_EQ(widget->getColors().at(UiWidget::BackgroundColor),
+              (CoRgbColorTyped<float>{1.0F, 0.2F, 0.0F}));
+  }
 }
 
 } // namespace

@@ -18,6 +18,8 @@ RCShdPtr<UiSplitPane> UiSplitPane::create(RCShdPtr<UiContainer> const& parent, c
   if (resources) {
     UiResTable::Resource const& resource = resources->get(UiResTable::Page, name);
     pane->setSize(resource.width, resource.height);
+    if (resource.background)
+      pane->setColor(BackgroundColor, *resource.background);
   }
   if (parent)
     parent->add(pane);
