@@ -4,6 +4,7 @@
 #include <boost/smart_ptr/intrusive_ptr.hpp>
 #include <boost/smart_ptr/intrusive_ref_counter.hpp>
 
+#include <array>
 #include <memory>
 
 namespace Qv {
@@ -29,15 +30,18 @@ template <class Make> auto copy(Make make) {
   };
 }
 
-/// Passes a pointer to a new owner and back.
+/// Passes a pointer on, round a circle of owners: each new owner takes it from the one before. Two
+/// owners alone would measure how the processor guesses that what it stores is loaded next.
 template <class Make> auto handOver(Make make) {
   return [make](auto& loop) {
-    auto here = make();
+    std::array<decltype(make()), 64> owners;
+    owners.front() = make();
+    std::size_t owner = 0;
     for ([[maybe_unused]] auto _ : loop) {
-      auto there = std::move(here);
-      benchmark::DoNotOptimize(there);
-      here = std::move(there);
-      benchmark::DoNotOptimize(here);
+      auto pointer = std::move(owners[owner]);
+      owner = (owner + 1) % owners.size();
+      owners[owner] = std::move(pointer);
+      benchmark::ClobberMemory();
     }
   };
 }
