@@ -7,6 +7,7 @@ difference leaves the start of the process out.
 """
 
 import concurrent.futures
+import contextlib
 import json
 import os
 import pathlib
@@ -224,10 +225,9 @@ def main():
     if sys.argv[1:] not in ([], ["--check"]):
         sys.exit("bench: the only option is --check")
     # Paths are allocated and compared as well, so they must be as long everywhere.
-    with tempfile.TemporaryDirectory(dir="/tmp") as place:
+    with tempfile.TemporaryDirectory(dir="/tmp") as place, contextlib.chdir(place):
         for part in ("bin", "lib", "share"):
-            shutil.copytree(BUILD / part, pathlib.Path(place, part))
-        os.chdir(place)
+            shutil.copytree(BUILD / part, part)
         cases = list_cases()
         counts = measure_counts(cases)
         if sys.argv[1:]:
