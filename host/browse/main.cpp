@@ -5,12 +5,11 @@
 #include "hostResources.h"
 #include "output.h"
 #include "progress.h"
-#include "toolCatalogue.h"
+#include "readToolSources.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <boost/dll/runtime_symbol_info.hpp>
-#include <cstring>
 #include <sstream>
 
 namespace fs = std::filesystem;
@@ -182,18 +181,8 @@ ToolSource ownViews() {
 
 /// Reads all sources before the first one is registered.
 void registerTools(CommandLine& line) {
-  std::vector<ToolSource> sources;
-  PluginCache cache(PluginCache::getUserFile());
-  Frei0rScan const scan = {.retry = line.request.retry};
-  for (std::string const& name : line.tools) {
-    sayProgress("reading tools");
-    if (name == "frei0r")
-      sources.push_back(readFrei0rTools(frei0rDirectory, cache, scan));
-    else if (name.starts_with("frei0r:"))
-      sources.push_back(readFrei0rTools(name.substr(std::strlen("frei0r:")), cache, scan));
-    else
-      sources.push_back(readToolCatalogue(name));
-  }
+  std::vector<ToolSource> sources =
+      readToolSources(line.tools, {.retry = line.request.retry, .progress = &sayProgress});
   bool const viewsGiven = std::any_of(sources.begin(), sources.end(), [](ToolSource const& source) {
     return !source.views.empty();
   });

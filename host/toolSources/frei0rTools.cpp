@@ -157,7 +157,8 @@ ToolSource::Tool readFrei0rTool(fs::path const& file) {
   return tool;
 }
 
-ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache, Frei0rScan const& scan) {
+ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache,
+                           ScanOptions const& options) {
   ToolSource source;
   source.origin = directory;
   std::vector<std::string> stamps;
@@ -165,13 +166,13 @@ ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache, Frei0r
   for (fs::path const& file : findPlugins(directory)) {
     stamps.push_back(PluginCache::getStamp(file));
     PluginCache::Entry const* const kept = cache.find(file, stamps.back());
-    bool const again = kept && kept->earlier && !kept->reading.failure.empty() && scan.retry;
+    bool const again = kept && kept->earlier && !kept->reading.failure.empty() && options.retry;
     if (!kept || again)
       unread.push_back(file);
     source.plugins.push_back({.file = file});
   }
 
-  std::vector<PluginReading> const readings = scanPlugins(unread, &readFrei0rTool, scan.limit);
+  std::vector<PluginReading> const readings = scanPlugins(unread, &readFrei0rTool, options);
   std::size_t next = 0;
   auto stamp = stamps.begin();
   for (ToolSource::Plugin& plugin : source.plugins) {

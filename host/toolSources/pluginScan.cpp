@@ -1,7 +1,6 @@
 #include "pluginScan.h"
 
 #include "hostError.h"
-#include "progress.h"
 
 #include <algorithm>
 #include <array>
@@ -277,7 +276,7 @@ std::string readText(std::istream& stream) {
 }
 
 std::vector<PluginReading> scanPlugins(std::vector<fs::path> const& files, ReadTool readTool,
-                                       std::chrono::milliseconds limit) {
+                                       ScanOptions const& options) {
   // Where it is ignored, which is inherited, no child has a status.
   std::signal(SIGCHLD, SIG_DFL);
   std::size_t const processors = std::max(1U, std::thread::hardware_concurrency());
@@ -287,8 +286,8 @@ std::vector<PluginReading> scanPlugins(std::vector<fs::path> const& files, ReadT
   for (std::size_t next = 0; done < files.size();) {
     for (; next < files.size() && children.size() < processors; ++next)
       children.push_back(
-          std::make_unique<Child>(next, files[next], readTool, Clock::now() + limit));
-    sayProgress(fmt::format("reading plug-ins, {} of {}", done, files.size()));
+          std::make_unique<Child>(next, files[next], readTool, Clock::now() + options.limit));
+    options.progress(fmt::format("reading plug-ins, {} of {}", done, files.size()));
 
     std::vector<pollfd> const events = wait(children);
     for (std::size_t index = children.size(); index-- > 0;) {
@@ -297,7 +296,7 @@ std::vector<PluginReading> scanPlugins(std::vector<fs::path> const& files, ReadT
       child.receive();
       if (!child.isDone(ended, Clock::now()))
         continue;
-      readings[child.getIndex()] = child.takeReading(ended, limit);
+      readings[child.getIndex()] = child.takeReading(ended, options.limit);
       children.erase(children.begin() + std::ptrdiff_t(index));
       ++done;
     }

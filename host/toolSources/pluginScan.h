@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <iosfwd>
 
 namespace Qv {
@@ -24,8 +25,15 @@ struct PluginReading {
 /// Reads a text that ends in a zero byte. @throws HostError when there is none.
 std::string readText(std::istream& stream);
 
-/// How long a plug-in may take to answer.
-inline constexpr std::chrono::milliseconds PluginTimeLimit{5000};
+/// How plug-in files are read.
+struct ScanOptions {
+  /// Whether a plug-in that failed before is tried again.
+  bool retry = false;
+  /// How long one plug-in may take to answer.
+  std::chrono::milliseconds limit{5000};
+  /// Told what is being waited for, in a text much shorter than a line.
+  std::function<void(std::string const&)> progress = [](std::string const&) {};
+};
 
 /// Calls `readTool` for each plug-in file in a child process of its own, as many at a time as there
 /// are processors. Whatever a plug-in does there, it reaches neither the input and the output of
@@ -37,6 +45,6 @@ inline constexpr std::chrono::milliseconds PluginTimeLimit{5000};
 std::vector<PluginReading>
 scanPlugins(std::vector<std::filesystem::path> const& files,
             ToolSource::Tool (*readTool)(std::filesystem::path const& file),
-            std::chrono::milliseconds limit = PluginTimeLimit);
+            ScanOptions const& options);
 
 } // namespace Qv

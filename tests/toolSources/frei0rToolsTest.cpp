@@ -26,9 +26,9 @@ protected:
     return directory_ / name;
   }
   /// Reads the directory as a run of its own.
-  ToolSource read(Frei0rScan const& scan = {}) const {
+  ToolSource read(ScanOptions const& options = {}) const {
     PluginCache cache(cache_);
-    return readFrei0rTools(directory_, cache, scan);
+    return readFrei0rTools(directory_, cache, options);
   }
 
   fs::path const cache_ = directory_ / "cache" / "plugins";

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "pluginScan.h"
+
+namespace Qv {
+
+/// Reads the tool sources of these names, in their order: "frei0r" is the frei0r plug-ins of this
+/// machine, "frei0r:DIR" those of a directory, and anything else a catalogue file.
+/// @throws HostError when a source cannot be read.
+std::vector<ToolSource> readToolSources(std::vector<std::string> const& names,
+                                        ScanOptions const& options);
+
+} // namespace Qv
