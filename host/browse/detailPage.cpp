@@ -36,7 +36,6 @@ Json describeWidget(RCShdPtr<UiWidget> const& widget) {
     json["image"] = describeImage(pane->getImage());
   if (auto const split = widget.dynamicCast<UiSplitPane>()) {
     json["orientation"] = int(split->getOrientation());
-    json["sizes"] = std::vector<float>(split->getSizes());
     json["open"] = split->getOpenPane() ? Json(split->getOpenPane()->getName()) : Json(nullptr);
   }
   return json;

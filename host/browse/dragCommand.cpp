@@ -1,11 +1,11 @@
 #include "commands.h"
 
-#include "brDndRegistry.h"
 #include "browser.h"
 #include "drCarrier.h"
+#include "hostDndRegistry.h"
+#include "hostDndTool.h"
 #include "hostError.h"
 #include "output.h"
-#include "piDndTool.h"
 #include "snItemBasic.h"
 #include "uiViewIdentifier.h"
 
@@ -18,7 +18,8 @@ namespace {
 /// What a consumer finds in a selection item.
 std::string arrival(RCShdPtr<SnItem const> const& item) {
   if (auto const tool = item.dynamicCast<SnItemBasic<RCShdPtr<PiNodeDndInterface const>> const>())
-    return fmt::format("tool \"{}\"", tool->getValue()->getToolName());
+    return fmt::format("tool \"{}\"",
+                       tool->getValue().checkedCast<HostDndTool const>()->getTool()->getName());
   if (auto const view = item.dynamicCast<SnItemBasic<UiViewIdentifier> const>())
     return fmt::format("view \"{}\"", view->getValue().getName());
   return "something unknown";
@@ -27,7 +28,7 @@ std::string arrival(RCShdPtr<SnItem const> const& item) {
 /// Drags an item and tells what happened.
 Json drag(RCShdPtr<BrBrowsable> const& item) {
   Json json = {{"path", item->getPath()}, {"handler", nullptr}, {"accepted", false}};
-  RCShdPtr<BrDndHandler> const handler = BrDndRegistry::getInstance().findHandler(*item);
+  RCShdPtr<BrDndHandler> const handler = HostDndRegistry::getInstance().findHandler(*item);
   if (!handler)
     return json;
   BrDndHandler const& found = *handler;
