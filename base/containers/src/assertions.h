@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-/// Thrown when the program finds one of its own invariants broken.
+/// Thrown when an invariant of the program is broken.
 class QV_EXPORT ExProgramAborted : public ExBase {
 public:
   ExProgramAborted(char const* file, int line, char const* message);
@@ -23,7 +23,7 @@ private:
   std::optional<std::string> message_;
 };
 
-/// Reports broken invariants.
+/// Reports a broken invariant.
 class QV_EXPORT Assertions {
 public:
   /// @throws ExProgramAborted always. @param file the source file. @param line the line in it.

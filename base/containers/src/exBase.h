@@ -10,11 +10,10 @@ namespace Qv {
 /// Base of the base library's exceptions.
 class QV_EXPORT ExBase : public std::exception {
 public:
-  /// @param what one sentence for a person.
+  /// @param what one sentence for users.
   explicit ExBase(std::string what);
   ~ExBase() override;
 
-  /// The sentence.
   char const* what() const noexcept override;
 
 private:

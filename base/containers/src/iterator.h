@@ -68,9 +68,9 @@ template <class T> inline IteratorImp<T>::~IteratorImp() = default;
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
-/// A bidirectional iterator over any engine. Copies share the engine; whatever moves or hands out
-/// a modifiable element first makes it exclusive. Every operation but copying and destruction
-/// throws ExNullPtr when there is no engine.
+/// A bidirectional iterator over any engine, whose operations it calls. Copies share the engine;
+/// whatever moves or hands out a modifiable element first makes it exclusive. Every operation but
+/// copying and destruction throws ExNullPtr when there is no engine.
 template <class T>
 class QV_EXPORT Iterator
     : public std::iterator<std::bidirectional_iterator_tag, T, std::int64_t, T*, T&> {
@@ -91,53 +91,43 @@ public:
   virtual T& operator*() { return exclusive().item(); }
   /// @}
 
-  /// Goes to the first element.
   virtual Iterator& first() {
     exclusive().first();
     return *this;
   }
-  /// Goes to the last element.
   virtual Iterator& last() {
     exclusive().last();
     return *this;
   }
-  /// Goes behind the last element.
   virtual Iterator& end() {
     exclusive().end();
     return *this;
   }
-  /// Whether the position is behind the last element.
   virtual bool atEnd() const { return engine().atEnd(); }
-  /// Whether the position is the first element.
   virtual bool atBegin() const { return engine().atBegin(); }
-  /// @throws IteratorEx::ExOutOfRange at the end, and stays there.
   virtual Iterator& next() {
     exclusive().next();
     return *this;
   }
-  /// @throws IteratorEx::ExOutOfRange at the first element, and stays there.
   virtual Iterator& previous() {
     exclusive().previous();
     return *this;
   }
-  /// The number of elements, whatever the position.
   virtual int getCardinality() const { return engine().getCardinality(); }
 
-  /// Returns an iterator at the old position.
+  /// An iterator that stays at the old position.
   virtual Iterator operator++(int) {
     Iterator old(*this);
     next();
     return old;
   }
-  /// The same as next().
   virtual Iterator& operator++() { return next(); }
-  /// Returns an iterator at the old position.
+  /// An iterator that stays at the old position.
   virtual Iterator operator--(int) {
     Iterator old(*this);
     previous();
     return old;
   }
-  /// The same as previous().
   virtual Iterator& operator--() { return previous(); }
 
 private:

@@ -11,7 +11,6 @@ namespace Qv {
 
 /// Yields elements as they are stored.
 struct QV_EXPORT IteratorAccessorPassthrough {
-  /// The element itself.
   template <class T> static T& access(T& element) { return element; }
 };
 
@@ -22,7 +21,6 @@ struct QV_EXPORT IteratorAccessorPassthrough {
 template <class Container, class StrongPtr, class Accessor>
 class QV_EXPORT IteratorSTL final : public IteratorImp<typename Container::value_type> {
 public:
-  /// What the engine yields.
   using Element = typename Container::value_type;
 
   /// Stands on the first element. @param container owns the container.
@@ -78,10 +76,10 @@ public:
 private:
   IteratorSTL(IteratorSTL const&) = default;
 
-  /// Without a test for null, which the constructor made.
+  /// Unchecked: the constructor refuses null.
   Container& container() const { return *container_.get(); }
 
-  /// The path is as the build records it, and the lines are those that handlers have always seen.
+  /// Path and lines are part of the interface: handlers may look at them.
   [[noreturn]] static void throwOutOfRange(int line) {
     throw IteratorEx::ExOutOfRange(".\\base/containers/src/iteratorSTL.imp.h", line);
   }

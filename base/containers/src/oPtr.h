@@ -38,7 +38,7 @@ public:
   /// The object, which stays owned; null when there is none.
   T* get() const noexcept { return ptr_; }
   explicit operator bool() const noexcept { return ptr_ != nullptr; }
-  /// Gives the object up to the caller, who deletes it.
+  /// Gives up the object to the caller, who deletes it.
   [[nodiscard]] T* release() noexcept { return std::exchange(ptr_, nullptr); }
 
 private:

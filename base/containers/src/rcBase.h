@@ -2,10 +2,17 @@
 
 // Intrusive reference counting: the count lives in the object, so any raw pointer to a counted
 // object can become a counting pointer again, and one allocation serves object and count.
+//
+//   RCShdPtr<Item> a(new Item);   // The count goes from 0 to 1.
+//   RCShdPtr<Item> b = a;         // 2
+//   a = RCShdPtr<Item>(b.get());  // 2: the pointers are equal, so nothing happens to a.
+//   b = RCShdPtr<Item>();         // 1
+//   a = RCShdPtr<Item>();         // 0: the item is deleted.
 
 #include "qvExport.h"
 
 #include <atomic>
+#include <cassert>
 
 namespace Qv {
 
@@ -31,24 +38,22 @@ private:
 /// the address of its RCBase.
 /// @tparam Counter `LkCounter<int>`, or `int` for objects that stay on one thread.
 ///
-/// Both instances stand in the base library, so that everyone shares their identity. What counts is
-/// always inlined: a library imports nothing of them but the destructor and the identity.
+/// Both instances are built into the base library, so that everyone shares their identity. The
+/// counting is always inlined: of the instances, others import only destructor and identity.
 template <class Counter> class QV_EXPORT RCBase {
 public:
-  /// Takes one reference.
   [[gnu::always_inline]] void acquire() const noexcept { count_++; }
 
-  /// Gives one reference back; the last one deletes the object, whose destructor may be protected.
+  /// Gives one reference back. With the last one the object is deleted.
   [[gnu::always_inline]] void release() const noexcept {
+    assert(count_ > 0);
     // Compared with 0, a plain count takes one instruction less.
     if (--count_ == 0)
       delete this;
   }
 
-  /// The number of references held at this moment.
   [[gnu::always_inline]] int getRefCount() const noexcept { return count_; }
 
-  /// The address of this sub-object.
   [[gnu::always_inline]] void const* asRCBase() const noexcept { return this; }
 
 protected:
@@ -63,8 +68,9 @@ private:
   mutable Counter count_{};
 };
 
-// An instance exports a defaulted destructor only when it is defaulted outside the class.
-template <class Counter> inline RCBase<Counter>::~RCBase() = default;
+template <class Counter> inline RCBase<Counter>::~RCBase() {
+  assert(count_ == 0 && "deleted while it is held");
+}
 
 extern template class QV_EXPORT RCBase<LkCounter<int>>;
 extern template class QV_EXPORT RCBase<int>;

@@ -34,7 +34,7 @@ private:
   std::string to_;
 };
 
-/// Throws the exceptions of the pointer types.
+/// Throws what the pointers throw.
 class QV_EXPORT RCExUtil {
 public:
   /// @throws ExNullPtr always. @param typeName the readable name of the pointer type.

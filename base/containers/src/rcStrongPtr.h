@@ -13,9 +13,8 @@ namespace Qv {
 /// pointee alive (the strong count).
 template <class Counter> class QV_EXPORT RCSWCount : public RCBase<Counter> {
 public:
-  /// Takes one strong reference.
   void acquireStrong() noexcept { strong_++; }
-  /// Returns true for the call that gives the last strong reference back.
+  /// @returns whether it was the last one.
   bool releaseStrong() noexcept { return strong_-- == 1; }
   int getStrongCount() const noexcept { return strong_; }
 
@@ -94,7 +93,7 @@ private:
   RCShdPtr<Block> block_;
 };
 
-/// The strong pointer that everyone uses.
+/// RCStrongBasePtr with the atomic counter.
 template <class T> class QV_EXPORT RCStrongPtr : public RCStrongBasePtr<T, LkCounter<int>> {
 public:
   using RCStrongBasePtr<T, LkCounter<int>>::RCStrongBasePtr;

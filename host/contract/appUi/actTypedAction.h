@@ -22,7 +22,7 @@ protected:
 public:
   /// Whether the action is offered for these; both may be null.
   virtual bool typedInputValid(First const& first, Second const& second) = 0;
-  /// Performs the action, also where it is not offered: it has to defend itself.
+  /// Performs the action. It is called also where the action is not offered.
   virtual void typedPerformAction(First const& first, Second const& second) = 0;
   /// Appends the options that the action offers; returns how many.
   virtual int typedEnumOptions(First const& first, Second const& second,

@@ -88,7 +88,7 @@ public:
   /// @}
   /// The image of that id, for instance THUMBNAIL; null when there is none. @param size in pixels.
   virtual RCShdPtr<WsManagedImage> getImage(int imageId, GeVector2<int> const& size);
-  /// What a person reads when pointing at the item; "<br>" separates lines.
+  /// The text shown when the pointer rests on the item; "<br>" separates lines.
   virtual std::string getTooltip(int attributeId) const;
   /// @{
   /// Loading in the background; an item that has all at hand leaves these to the host.
@@ -102,7 +102,7 @@ public:
   /// @}
   /// Called after a click on an attribute of the item.
   virtual void notifyClick(int attributeId);
-  /// Whether a person may change the attribute.
+  /// Whether users may change the attribute.
   virtual bool isAttributeEditable(int attributeId) const;
   virtual bool isAContainer() const = 0;
   /// Whether there are children, or children that are containers themselves, without listing them.
@@ -124,7 +124,7 @@ public:
   virtual bool isPicklistable() const;
   /// Whether the selection holds a child of the item.
   virtual bool isAnyChildSelected(RCShdPtr<SnSelection> const& selection) const;
-  /// Called when the item becomes selected or is so no more.
+  /// Called when the item is selected or deselected.
   virtual void select(bool selected);
   /// @{
   /// The module leaves these to the host.

@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-/// Something a person can do with what is selected.
+/// A command that users can apply to a selection.
 class QV_EXPORT ActAction {
 public:
   virtual ~ActAction();

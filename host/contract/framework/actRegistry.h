@@ -8,7 +8,7 @@ namespace Qv {
 /// The registry of actions.
 class QV_EXPORT ActRegistry {
 public:
-  /// The host's own; the module passes 0.
+  /// The meaning is the host's; the module passes 0.
   enum DynamicState : int {};
 
   static ActRegistry& getInstance();

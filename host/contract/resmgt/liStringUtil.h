@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-/// Makes texts of numbers.
+/// Converts numbers to text.
 class QV_EXPORT LiStringUtil {
 public:
   /// The decimal text of a number.

@@ -8,9 +8,8 @@ namespace Qv {
 /// A box of text, of several lines.
 class QV_EXPORT UiTextEditor : public UiWidget {
 public:
-  /// Shows a text in place of the one before.
   void setString(LiString const& text);
-  /// Lets a person change the text, or not.
+  /// Whether users may change the text.
   void setEditable(bool editable);
 
   /// @name Stand-in only

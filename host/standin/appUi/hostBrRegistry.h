@@ -21,7 +21,7 @@ public:
 
   /// In order of registration.
   Vector<OPtr<BrServer>> const& getServers() const { return servers_; }
-  /// The server of a scheme. @throws HostError when nobody registered the scheme.
+  /// @throws HostError when the scheme is unknown.
   BrServer& getServer(std::string const& scheme) const;
   /// In order of registration.
   Vector<View> const& getViews() const { return views_; }

@@ -2,8 +2,8 @@
 
 #include "rcBase.h"
 
-// Classes of the host that the contract names and of which the stand-in makes no object. They are
-// complete so that null pointers to them can be returned.
+// Classes that the contract names and the stand-in never makes. They are complete so that null
+// pointers to them can be returned.
 
 namespace Qv {
 

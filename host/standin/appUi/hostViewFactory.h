@@ -8,7 +8,7 @@
 
 namespace Qv {
 
-/// Keeps the views that UiViewFactory tells of.
+/// The views behind UiViewFactory.
 class QV_EXPORT HostViewFactory {
 public:
   /// A view of the application.
@@ -20,7 +20,7 @@ public:
   static HostViewFactory& getInstance();
 
   /// Adds a view after the existing ones.
-  /// @throws HostError when the name is no single path component or there is such a view.
+  /// @throws HostError when the name is not a single path component or exists already.
   void addView(View const& view);
   void clear();
 

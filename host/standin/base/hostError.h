@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// Thrown by the host when it refuses what it was asked to do; it is as it was before.
+/// Thrown by the host when it refuses a request, which has changed nothing.
 class QV_EXPORT HostError : public ExBase {
 public:
   using ExBase::ExBase;

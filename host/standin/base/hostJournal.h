@@ -10,12 +10,10 @@
 
 namespace Qv {
 
-/// What the host was asked to do, across all its registries, in order. Every registry reports a
-/// call here before it changes anything, so the journal is also where failures of the host are
-/// made.
+/// What the host was asked to do, across all its registries, in order. Every registry records a
+/// call before it changes anything, so this is also where failures of the host are injected.
 class QV_EXPORT HostJournal {
 public:
-  /// One call: the operation, what it was about, and what else it said.
   struct Entry {
     std::string operation;
     std::string key;
@@ -26,14 +24,14 @@ public:
 
   static HostJournal& getInstance();
 
-  /// Forgets everything and keeps what comes from now on.
+  /// Discards all entries and starts recording.
   void start();
-  /// Keeps no further entry and fails no further call.
+  /// Ends recording and injected failures.
   void stop();
-  /// Lets the call that makes entry `index`, counted from 0, fail. Lasts until start() or stop().
+  /// Makes the call of entry `index`, counted from 0, fail, until start() or stop().
   void failAt(std::size_t index) { failAt_ = index; }
 
-  /// Adds an entry while the journal is kept. @throws HostError where told to fail.
+  /// Adds an entry while recording. @throws HostError for an injected failure.
   void record(char const* operation, std::string_view key = {}, std::string_view detail = {});
 
   std::vector<Entry> const& getEntries() const { return entries_; }

@@ -16,9 +16,9 @@ namespace Qv {
 class QV_EXPORT HostModule {
 public:
   /// Loads the file and initialises each package that it registers.
-  /// @throws HostError when there is no such file, it is no shared library, it registers no package
-  /// or one that exists already. Whatever a package throws passes; its class must not be the
-  /// module's own. Nothing stays loaded then.
+  /// @throws HostError when the file cannot be loaded as a shared library, registers no package or
+  /// one that exists already, or throws what is not a std::exception. Other exceptions of a package
+  /// pass; their class must not be defined in the module, which is unloaded by then.
   explicit HostModule(std::filesystem::path const& file);
   /// Uninitialises all packages, so that the host lets go of the module's objects, and unloads it.
   ~HostModule();

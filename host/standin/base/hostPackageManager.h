@@ -19,10 +19,10 @@ public:
   /// Initialises what the package depends on, then the package itself; each one once.
   /// @throws HostError when a dependency is missing, leads back to the package or failed before.
   void initialize(InPackageInit& package);
-  /// Uninitialises in reverse order. The registries of the host let go of all they hold.
+  /// Uninitialises in reverse order, which empties the registries of the host.
   void uninitializeAll() noexcept;
 
-  /// Takes in a package, which stays its library's.
+  /// Adds a package, which its library owns.
   void add(InPackageInit& package);
   /// Forgets a package that is about to go.
   void remove(InPackageInit& package) noexcept;
@@ -35,7 +35,7 @@ public:
 private:
   Vector<InPackageInit*> packages_;
   Vector<InPackageInit*> initialized_;
-  /// Those that wait for a dependency, are at it, or have failed.
+  /// Packages whose initialisation has started but not succeeded.
   Vector<InPackageInit*> started_;
   std::exception_ptr loadFailure_;
 };

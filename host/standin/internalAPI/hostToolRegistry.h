@@ -15,10 +15,10 @@ public:
   static HostToolRegistry& getInstance();
 
   /// Adds a category after the existing ones; the same name may be added again.
-  /// @throws HostError when the name is no single path component.
+  /// @throws HostError when the name is not a single path component.
   void addCategory(std::string const& name);
   /// Adds a tool after the existing ones. Of tools of the same name, look-ups find the first.
-  /// @throws HostError when the name or the category is no single path component.
+  /// @throws HostError when the name or the category is not a single path component.
   void addTool(HostToolFacts const& facts);
   void clear();
 

@@ -15,7 +15,7 @@ HostImage::HostImage(std::string name, std::uint32_t width, std::uint32_t height
 HostImage::~HostImage() = default;
 
 RCShdPtr<HostImage> HostImage::read(std::filesystem::path const& file) {
-  // The result says all that the caller acts on; the library's own words would go to stderr.
+  // The library would write to stderr; null tells the caller enough.
   TIFFSetErrorHandler(nullptr);
   TIFFSetWarningHandler(nullptr);
 

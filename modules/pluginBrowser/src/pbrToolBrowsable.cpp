@@ -37,7 +37,7 @@ PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
   } break;
   case 1: {
     type_ = CATEGORY;
-    // Read without the right to change it, which would clone the host's engine where it is shared.
+    // The modifiable form would clone a shared engine.
     toolName_ = std::as_const(components).item();
     Iterator<RCShdPtr<PiTool const>> tools = findTools(toolName_);
     for (; !tools.atEnd(); tools.next())

@@ -20,7 +20,7 @@ public:
   OPtrRet<BrView> clone() const override;
   /// True for tools, and for super tools at any level.
   bool understands(RCShdPtr<BrBrowsable> const& item) override;
-  /// Shows an item; the fields are empty when it is no tool that the registry knows.
+  /// Shows an item. The fields are empty when the registry knows no such tool.
   /// @throws ExNullPtr when the widgets have not been built.
   void setContent(RCShdPtr<BrBrowsable> const& item,
                   RCShdPtr<SnSelection> const& selection) override;
