@@ -22,6 +22,7 @@ public:
 
   /// @name Stand-in only
   /// @{
+
   /// The item whose children are enumerated.
   BrBrowsable* getParent() const { return parent_; }
   /// @}

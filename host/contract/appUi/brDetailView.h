@@ -30,6 +30,7 @@ public:
 
   /// @name Stand-in only
   /// @{
+
   /// A page with its title.
   struct Page {
     LiString title;

@@ -57,6 +57,7 @@ public:
 
   /// @name Stand-in only
   /// @{
+
   /// The package classes needed, in the order of declaration.
   Vector<std::type_info const*> const& getDependencies() const { return dependencies_; }
   /// @}

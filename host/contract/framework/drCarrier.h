@@ -12,6 +12,7 @@ public:
 
   /// @name Stand-in only
   /// @{
+
   /// @param selection is shared.
   explicit DrCarrier(RCShdPtr<SnSelection> const& selection);
   /// @}

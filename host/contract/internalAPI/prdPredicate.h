@@ -21,6 +21,7 @@ public:
 
   /// @name Stand-in only
   /// @{
+
   /// @param term is shared with the copies.
   explicit PrdPredicate(RCShdPtr<PrdTerm<T> const> const& term);
 

@@ -25,6 +25,7 @@ public:
 
   /// @name Stand-in only
   /// @{
+
   /// A new, empty selection.
   static RCShdPtr<SnSelection> create();
   /// @}

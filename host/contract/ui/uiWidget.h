@@ -43,6 +43,7 @@ protected:
 
   /// @name Stand-in only
   /// @{
+
   /// Takes a child in after the existing ones, out of the widget that held it before.
   void addChild(RCShdPtr<UiWidget> const& child);
   /// Lets go of all children.

@@ -14,6 +14,7 @@ namespace Qv {
 /// call before it changes anything, so this is also where failures of the host are injected.
 class QV_EXPORT HostJournal {
 public:
+  /// One call.
   struct Entry {
     std::string operation;
     std::string key;
