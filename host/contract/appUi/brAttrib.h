@@ -28,7 +28,7 @@ public:
                                    AttribAttributes third, AttribAttributes fourth,
                                    AttribAttributes fifth);
 
-  /// Sets the current width in pixels, kept within the limits; returns the width before.
+  /// Sets the current width in pixels.
   int setCurrentW(int width);
   /// Shows or hides the column.
   void setDisplayed(bool displayed);

@@ -9,8 +9,8 @@ class QV_EXPORT BrDndRegistry {
 public:
   static BrDndRegistry& getInstance();
 
-  /// Attaches a handler to the class of items that the prototype `type` stands for. Returns false
-  /// when that class has a handler already.
+  /// Attaches a handler to the class of items that the prototype `type` stands for. The module does
+  /// not look at the result.
   bool addHandler(RCShdPtr<BrBrowsable> const& type, RCShdPtr<BrDndHandler> const& handler);
 };
 

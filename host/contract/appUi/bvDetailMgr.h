@@ -15,7 +15,7 @@ protected:
   ~BvDetailMgr() override;
 
 public:
-  /// Hands over the item on show, of which the manager shows the thumbnail in the icon pane.
+  /// Hands over the item on show, of which the manager shows what the host knows.
   virtual void setBrowsable(RCShdPtr<BrBrowsable> const& item);
 
   /// Builds the page container described under `name`. @param parent null for a page of its own.

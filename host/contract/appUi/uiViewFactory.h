@@ -10,7 +10,7 @@ class QV_EXPORT UiViewFactory {
 public:
   /// The names of all views, in the host's order.
   static Iterator<LiString> getViews();
-  /// The label shown to users; the name itself when there is no such view.
+  /// The label shown to users, also for a name that is not a view's.
   static LiString getViewLabel(LiString const& name);
 };
 

@@ -23,7 +23,7 @@ private:
   LiString name_;
 };
 
-/// Writes "view" and the name in quotes.
+/// Writes the identifier in readable form.
 QV_EXPORT std::ostream& operator<<(std::ostream& os, UiViewIdentifier const& view);
 
 } // namespace Qv

@@ -8,8 +8,7 @@ namespace Qv {
 /// Splits paths.
 class QV_EXPORT OmUtil {
 public:
-  /// The components of `path`, standing on the first. Leading, trailing and repeated separators
-  /// are ignored; an empty path has no component.
+  /// The components of `path`, standing on the first. An empty path has none.
   static Iterator<std::string> parsePath(OsFilePath const& path);
 };
 

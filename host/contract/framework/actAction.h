@@ -34,7 +34,10 @@ public:
   /// @}
 
 protected:
+  /// @name Stand-in only
+  /// @{
   ActAction();
+  /// @}
 };
 
 } // namespace Qv

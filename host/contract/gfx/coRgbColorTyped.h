@@ -10,7 +10,10 @@ template <class T> struct QV_EXPORT CoRgbColorTyped {
   T green{};
   T blue{};
 
+  /// @name Stand-in only
+  /// @{
   bool operator==(CoRgbColorTyped const&) const = default;
+  /// @}
 };
 
 } // namespace Qv

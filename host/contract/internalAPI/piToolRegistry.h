@@ -15,7 +15,7 @@ public:
   virtual RCShdPtr<PiTool const> findTool(std::string const& name, bool flag) = 0;
   /// The tool that a drag carries under that name; null when there is none.
   virtual RCShdPtr<PiTool const> getTool(std::string const& name) = 0;
-  /// Every tool for which `predicate` holds, in the order of registration; none is null.
+  /// Every tool for which `predicate` holds, in the order in which they are shown; none is null.
   /// @param flag the module passes true.
   virtual Iterator<RCShdPtr<PiTool const>>
   getTools(PrdPredicate<RCShdPtr<PiTool const>> const& predicate, bool flag) = 0;

@@ -6,12 +6,9 @@
 
 namespace Qv {
 
-template <class T> class PrdTerm;
-
 /// A question about a `T`; a value that can be negated and combined.
 template <class T> class QV_EXPORT PrdPredicate {
 public:
-  PrdPredicate(PrdPredicate const& other);
   virtual ~PrdPredicate();
 
   /// Holds where this one does not.
@@ -23,7 +20,7 @@ public:
   /// @{
 
   /// @param term is shared with the copies.
-  explicit PrdPredicate(RCShdPtr<PrdTerm<T> const> const& term);
+  explicit PrdPredicate(RCShdPtr<RCBase<LkCounter<int>> const> const& term);
 
   /// Whether the predicate holds for `element`.
   bool holds(T const& element) const;
@@ -33,7 +30,7 @@ public:
   /// @}
 
 private:
-  RCShdPtr<PrdTerm<T> const> term_;
+  RCShdPtr<RCBase<LkCounter<int>> const> term_;
 };
 
 } // namespace Qv

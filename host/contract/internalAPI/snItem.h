@@ -23,7 +23,7 @@ public:
   virtual SnItem* clone() const = 0;
   /// Whether both stand for the same thing.
   virtual bool isEqual(SnItem const& other) const = 0;
-  /// Writes a description; the base class writes the item's class on a line of its own.
+  /// Writes a description, of which the base class writes its own part.
   virtual void dump(std::ostream& os) const;
   /// Saves the state of the item.
   virtual RCShdPtr<Snapshot> snapshot() const;

@@ -6,16 +6,14 @@
 
 namespace Qv {
 
-/// A path, kept as it was given. Components are separated by "/".
+/// A path, made of components.
 class QV_EXPORT OsFilePath {
 public:
   explicit OsFilePath(std::string const& path);
   OsFilePath(OsFilePath const& other);
   ~OsFilePath();
 
-  OsFilePath& operator=(OsFilePath const& other);
-  /// Appends `other` as a further component. Exactly one separator stands between two non-empty
-  /// sides, none beside an empty one.
+  /// Appends `other` as a further component.
   OsFilePath& operator+=(OsFilePath const& other);
 
   /// Valid while the path lives and does not change.

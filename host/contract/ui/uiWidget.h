@@ -39,10 +39,9 @@ public:
   /// @}
 
 protected:
-  explicit UiWidget(std::string const& name);
-
   /// @name Stand-in only
   /// @{
+  explicit UiWidget(std::string const& name);
 
   /// Takes a child in after the existing ones, out of the widget that held it before.
   void addChild(RCShdPtr<UiWidget> const& child);

@@ -43,27 +43,36 @@ private:
   RCShdPtr<PrdTerm<T> const> right_;
 };
 
-template <class T>
-PrdPredicate<T>::PrdPredicate(RCShdPtr<PrdTerm<T> const> const& term) : term_(term) {}
+namespace {
 
-template <class T> PrdPredicate<T>::PrdPredicate(PrdPredicate const& other) = default;
+/// Every predicate is made of a term.
+template <class T>
+RCShdPtr<PrdTerm<T> const> termOf(RCShdPtr<RCBase<LkCounter<int>> const> const& term) {
+  return RCShdPtr<PrdTerm<T> const>(static_cast<PrdTerm<T> const*>(term.get()));
+}
+
+} // namespace
+
+template <class T>
+PrdPredicate<T>::PrdPredicate(RCShdPtr<RCBase<LkCounter<int>> const> const& term) : term_(term) {}
 
 template <class T> PrdPredicate<T>::~PrdPredicate() = default;
 
 template <class T> PrdPredicate<T> PrdPredicate<T>::operator!() const {
-  return PrdPredicate(RCShdPtr<PrdTerm<T> const>(new PrdNot<T>(term_)));
+  return PrdPredicate(RCShdPtr<PrdTerm<T> const>(new PrdNot<T>(termOf<T>(term_))));
 }
 
 template <class T> PrdPredicate<T> PrdPredicate<T>::operator&&(PrdPredicate const& other) const {
-  return PrdPredicate(RCShdPtr<PrdTerm<T> const>(new PrdAnd<T>(term_, other.term_)));
+  return PrdPredicate(
+      RCShdPtr<PrdTerm<T> const>(new PrdAnd<T>(termOf<T>(term_), termOf<T>(other.term_))));
 }
 
 template <class T> bool PrdPredicate<T>::holds(T const& element) const {
-  return term_->holds(element);
+  return static_cast<PrdTerm<T> const&>(*term_).holds(element);
 }
 
 template <class T> std::string const* PrdPredicate<T>::getIndexKey() const {
-  return term_->getIndexKey();
+  return static_cast<PrdTerm<T> const&>(*term_).getIndexKey();
 }
 
 using ToolPtr = RCShdPtr<PiTool const>;

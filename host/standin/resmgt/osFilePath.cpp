@@ -10,8 +10,6 @@ OsFilePath::OsFilePath(OsFilePath const& other) = default;
 
 OsFilePath::~OsFilePath() = default;
 
-OsFilePath& OsFilePath::operator=(OsFilePath const& other) = default;
-
 OsFilePath& OsFilePath::operator+=(OsFilePath const& other) {
   path_ = HostPath::join(path_, other.path_);
   return *this;

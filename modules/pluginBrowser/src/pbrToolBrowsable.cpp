@@ -16,8 +16,10 @@ namespace {
 
 /// The tools that a category shows.
 Iterator<RCShdPtr<PiTool const>> findTools(std::string const& category) {
-  // A host's conjunction may refer to its operands: all of them live until the tools are there.
-  auto const inCategory = PiToolPredicates::isCategory(LiString(category));
+  // A host's predicate may refer to what it is made from: all of it lives until the tools are
+  // there.
+  LiString const name(category);
+  auto const inCategory = PiToolPredicates::isCategory(name);
   return PiToolRegistry::getInstance().getTools(
       (inCategory && !PiToolPredicates::isInternal()) && PiToolPredicates::isActive(), true);
 }

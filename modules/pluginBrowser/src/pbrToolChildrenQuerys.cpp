@@ -16,9 +16,9 @@ void PbrToolChildrenQuerys::reset() { pending_ = true; }
 Iterator<RCShdPtr<BrBrowsable>> PbrToolChildrenQuerys::getNextChildSequence() {
   RCStrongPtr<BrBrowsables> const children(new BrBrowsables);
   if (pending_ && browsable_->isAContainer()) {
-    OsFilePath const parentPath(browsable_->getPath());
     std::string path;
     for (Iterator<std::string> names = browsable_->getChildren(); !names.atEnd(); names.next()) {
+      OsFilePath const parentPath(browsable_->getPath());
       OsFilePath childPath(parentPath);
       childPath += OsFilePath(names.item());
       if (filter_ == 2 && OmUtil::parsePath(childPath).getCardinality() != 2)
