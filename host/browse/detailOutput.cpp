@@ -28,7 +28,6 @@ Json toJson(Widget const& widget) {
     json["image"] = toJson(widget.image);
   if (widget.split) {
     json["orientation"] = widget.split->orientation;
-    json["sizes"] = widget.split->sizes;
     json["open"] = widget.split->open ? Json(*widget.split->open) : Json(nullptr);
   }
   json["children"] = Json::array();

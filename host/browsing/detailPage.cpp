@@ -37,7 +37,7 @@ Widget describe(RCShdPtr<UiWidget> const& widget) {
   if (auto const pane = widget.dynamicCast<UiPane>())
     result.image = pane->getImage();
   if (auto const split = widget.dynamicCast<UiSplitPane>()) {
-    result.split = Widget::Split{split->getOrientation(), split->getSizes(), {}};
+    result.split = Widget::Split{split->getOrientation(), {}};
     if (split->getOpenPane())
       result.split->open = split->getOpenPane()->getName();
   }

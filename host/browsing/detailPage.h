@@ -12,7 +12,6 @@ namespace Qv {
 struct Widget {
   struct Split {
     int orientation;
-    std::vector<float> sizes;
     /// The name of the pane that is open, if any.
     std::optional<std::string> open;
   };

@@ -1,8 +1,8 @@
 #include "dragging.h"
 
-#include "brDndRegistry.h"
 #include "drCarrier.h"
-#include "piDndTool.h"
+#include "hostDndRegistry.h"
+#include "hostDndTool.h"
 #include "snItemBasic.h"
 #include "typeName.h"
 #include "uiViewIdentifier.h"
@@ -15,7 +15,8 @@ namespace {
 
 std::string describe(RCShdPtr<SnItem const> const& item) {
   if (auto const tool = item.dynamicCast<SnItemBasic<RCShdPtr<PiNodeDndInterface const>> const>())
-    return "tool \"" + tool->getValue()->getToolName() + "\"";
+    return "tool \"" + tool->getValue().checkedCast<HostDndTool const>()->getTool()->getName() +
+           "\"";
   if (auto const view = item.dynamicCast<SnItemBasic<UiViewIdentifier> const>())
     return "view \"" + view->getValue().getName() + "\"";
   return "something unknown";
@@ -24,7 +25,7 @@ std::string describe(RCShdPtr<SnItem const> const& item) {
 } // namespace
 
 Drag drag(RCShdPtr<BrBrowsable> const& item) {
-  RCShdPtr<BrDndHandler> const handler = BrDndRegistry::getInstance().findHandler(*item);
+  RCShdPtr<BrDndHandler> const handler = HostDndRegistry::getInstance().findHandler(*item);
   if (!handler)
     return {};
   BrDndHandler const& found = *handler;

@@ -1,6 +1,7 @@
 #include "pluginScan.h"
 
 #include "hostError.h"
+#include "hostPath.h"
 
 #include <algorithm>
 #include <array>
@@ -264,7 +265,7 @@ PluginReading PluginReading::read(std::istream& stream) {
     text = readText(stream);
   reading.tool.tooltip = readText(stream);
   if (reading.failure.empty())
-    requireComponent(reading.tool.facts.category, "category name");
+    HostPath::requireComponent(reading.tool.facts.category, "category name");
   return reading;
 }
 

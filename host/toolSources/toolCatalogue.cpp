@@ -2,6 +2,7 @@
 
 #include "hostError.h"
 #include "hostFiles.h"
+#include "hostPath.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -150,7 +151,7 @@ std::string takeString(Json& value, Place const& place) {
 std::string takeName(Json& value, Place const& place, char const* what) {
   std::string name = takeString(value, place);
   try {
-    requireComponent(name, what);
+    HostPath::requireComponent(name, what);
   } catch (HostError const& error) {
     throw place.fault(error.what());
   }

@@ -2,12 +2,10 @@
 
 #include "bvDetailMgr.h"
 #include "expectations.h"
-#include "hostActRegistry.h"
 #include "hostBrRegistry.h"
-#include "hostIconRegistry.h"
+#include "hostTool.h"
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
-#include "hostWorkspace.h"
 #include "implementations.h"
 #include "pbrDraggedItems.h"
 #include "pbrToolBrowsable.h"
@@ -55,9 +53,8 @@ TEST(Slots, areWhatCallersExpect) {
       typesOf<InInit<QvInit::pluginBrowserQvmodule>, PbrToolServer, PbrViewServer, PbrToolBrowsable,
               PbrViewBrowsable, PbrToolChildrenQuerys, PbrViewChildrenQuery, PbrToolDndHandler,
               PbrViewDndHandler, DraggedToolItem, DraggedViewItem, AnySelection, PbrToolView,
-              AnyAction, HostToolRegistry, HostBrRegistry, HostTtServer, HostIconRegistry, HostTool,
-              HostActRegistry, HostWorkspace, BvDetailMgr, UiLabel, BrNode, AnyBuildInfo,
-              Iterator<std::string>, Iterator<RCShdPtr<BrBrowsable>>,
+              AnyAction, HostToolRegistry, HostBrRegistry, HostTtServer, HostTool, BvDetailMgr,
+              UiLabel, BrNode, AnyBuildInfo, Iterator<std::string>, Iterator<RCShdPtr<BrBrowsable>>,
               Iterator<RCShdPtr<PiTool const>>, Iterator<LiString>, NamesEngine, BrBrowsablesEngine,
               PrdPredicate<RCShdPtr<PiTool const>>>();
   EXPECT_EQ(classes.size(), expected.size());

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "brDndRegistry.h"
 #include "drCarrier.h"
 #include "hostBrRegistry.h"
+#include "hostDndRegistry.h"
 #include "hostPackageManager.h"
 #include "hostResources.h"
 #include "hostToolRegistry.h"
@@ -40,7 +40,7 @@ inline int browse(BrServer& server, RCShdPtr<BrBrowsable> const& item) {
   item->getTooltip(0);
   item->getImage(int(BrBrowsable::THUMBNAIL), {128, 128});
   RCShdPtr<DrCarrier> const carrier(new DrCarrier(SnSelection::create()));
-  BrDndRegistry::getInstance().findHandler(*item)->populateSelection(item, carrier);
+  HostDndRegistry::getInstance().findHandler(*item)->populateSelection(item, carrier);
   HostBrRegistry::getInstance().createDetailView(item);
 
   RCShdPtr<BrChildrenQuery> const query = item->getChildren(BrBrowsable::FindFilter(0));

@@ -51,7 +51,14 @@ Calls loading() {
 
 /// What the module's initialisation does to the host.
 Calls initialisation() {
+  std::string const name = std::to_string(BrBrowsable::NAME);
   Calls calls = {{"InBuildInfoUtil::registerInfo", "libQvpluginBrowserQvmodule", "8.0"},
+                 {"BrAttribList::append", "Type", ""},
+                 {"BrAttribList::append", "Tool", ""},
+                 {"BrAttribList::singleSort", name, ""},
+                 {"BrAttribList::append", "Type", ""},
+                 {"BrAttribList::append", "View", ""},
+                 {"BrAttribList::singleSort", name, ""},
                  {"BrDndRegistry::addHandler", "Qv::PbrToolBrowsable", "Qv::PbrToolDndHandler"},
                  {"BrDndRegistry::addHandler", "Qv::PbrViewBrowsable", "Qv::PbrViewDndHandler"},
                  {"UiResTable::load", "bvTool.xml", ""},
@@ -90,7 +97,8 @@ Calls registrations(Calls const& calls, std::size_t count) {
     HostJournal::Entry call = calls[index];
     if (call.operation == "BrRegistry::registerIcon")
       call.detail = calls[index - 1].key;
-    if (!call.operation.starts_with("InPackageInit::") && call.operation != "UiResTable::load" &&
+    if (!call.operation.starts_with("InPackageInit::") &&
+        !call.operation.starts_with("BrAttribList::") && call.operation != "UiResTable::load" &&
         call.operation != "UiIconRegistry::loadImage")
       result.push_back(call);
   }

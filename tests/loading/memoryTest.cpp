@@ -79,7 +79,7 @@ std::string describeAttributes(RCShdPtr<BrBrowsable> const& item) {
 
 /// What arrives of a dragged item, and of a clone of it.
 std::string describeDrag(RCShdPtr<BrBrowsable> const& item) {
-  RCShdPtr<BrDndHandler> const handler = BrDndRegistry::getInstance().findHandler(*item);
+  RCShdPtr<BrDndHandler> const handler = HostDndRegistry::getInstance().findHandler(*item);
   RCShdPtr<DrCarrier> const carrier(new DrCarrier(SnSelection::create()));
   try {
     if (handler->willPopulateSelection(item))

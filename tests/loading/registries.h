@@ -1,9 +1,9 @@
 #pragma once
 
-#include "brDndRegistry.h"
 #include "hostActRegistry.h"
 #include "hostBrRegistry.h"
 #include "hostBuildInfoRegistry.h"
+#include "hostDndRegistry.h"
 #include "hostImage.h"
 #include "hostJournal.h"
 #include "typeName.h"
@@ -26,7 +26,7 @@ inline Calls registered() {
   for (auto const& info : HostBuildInfoRegistry::getInstance().getInfos())
     calls.push_back(
         {"InBuildInfoUtil::registerInfo", info->getLibraryName(), info->getVersionString()});
-  for (auto const& [type, handler] : BrDndRegistry::getInstance().getEntries())
+  for (auto const& [type, handler] : HostDndRegistry::getInstance().getEntries())
     calls.push_back({"BrDndRegistry::addHandler", nameOf(*type), nameOf(*handler)});
   HostBrRegistry const& browser = HostBrRegistry::getInstance();
   for (auto const& [role, view] : browser.getViews())

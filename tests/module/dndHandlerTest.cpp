@@ -1,7 +1,8 @@
 #include "moduleTest.h"
 
-#include "brDndRegistry.h"
 #include "drCarrier.h"
+#include "hostDndRegistry.h"
+#include "hostDndTool.h"
 #include "pbrDraggedItems.h"
 #include "pbrToolDndHandler.h"
 #include "pbrViewDndHandler.h"
@@ -21,7 +22,7 @@ std::string contents(Selection const& selection) {
     EXPECT_EQ(item->getRefCount(), 1) << "the selection alone holds it";
     if (auto const tool = item.dynamicCast<DraggedToolItem const>()) {
       EXPECT_EQ(tool->getValue()->getRefCount(), 1);
-      result += "tool " + tool->getValue()->getToolName();
+      result += "tool " + tool->getValue().checkedCast<HostDndTool const>()->getTool()->getName();
     } else {
       result += "view " + item.checkedCast<DraggedViewItem const>()->getValue().getName();
     }
@@ -117,7 +118,7 @@ TEST_F(DndHandlers, needACarrierWithASelectionForWhatTheyAdd) {
 
 TEST_F(DndHandlers, belongToTheRegistryAlone) {
   initializePackage();
-  BrDndRegistry& registry = BrDndRegistry::getInstance();
+  HostDndRegistry& registry = HostDndRegistry::getInstance();
   // What findHandler() returns is the second reference.
   EXPECT_EQ(registry.findHandler(*tool(""))->getRefCount(), 2);
   EXPECT_EQ(registry.findHandler(*view(""))->getRefCount(), 2);

@@ -1,7 +1,7 @@
 #include "moduleTest.h"
 
-#include "brDndRegistry.h"
 #include "hostActRegistry.h"
+#include "hostDndRegistry.h"
 #include "inInit.imp.h"
 #include "piToolPredicates.h"
 #include "refusal.h"
@@ -25,7 +25,7 @@ class Package : public ModuleTest {};
 TEST_F(Package, goesOnWhenAHandlerIsRefused) {
   initializePackage();
   BrDndHandler* const first =
-      BrDndRegistry::getInstance().findHandler(*PbrToolBrowsable::createBrowsableType()).get();
+      HostDndRegistry::getInstance().findHandler(*PbrToolBrowsable::createBrowsableType()).get();
   HostBrRegistry::getInstance().clear();
   HostActRegistry::getInstance().clear();
   HostPackageManager::getInstance()
@@ -33,7 +33,7 @@ TEST_F(Package, goesOnWhenAHandlerIsRefused) {
       ->initialize();
   EXPECT_EQ(HostBrRegistry::getInstance().getServers().size(), 2U);
   EXPECT_EQ(
-      BrDndRegistry::getInstance().findHandler(*PbrToolBrowsable::createBrowsableType()).get(),
+      HostDndRegistry::getInstance().findHandler(*PbrToolBrowsable::createBrowsableType()).get(),
       first);
 }
 

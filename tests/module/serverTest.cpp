@@ -74,8 +74,6 @@ TEST_P(Server, givesTheNodeForAPath) {
   RCShdPtr<BrBrowsable> const root = server->getRootNode()->getBrowsable();
   EXPECT_EQ(root->getPath(), "");
   EXPECT_EQ(server->getNodeFromBrowsable(root, message)->getBrowsable(), root);
-  EXPECT_EQ(server->getParentPath("/a//b/c/"), "a/b");
-  EXPECT_EQ(server->getParentPath("a"), "");
 }
 
 template <class T> OPtr<BrServer> make() { return OPtr<BrServer>(new T); }

@@ -1,13 +1,18 @@
 #pragma once
 
-#include "qvExport.h"
-
+#include <cstdlib>
+#include <cxxabi.h>
+#include <memory>
 #include <string>
 #include <typeinfo>
 
 namespace Qv {
 
-/// Returns the name of a type as a person writes it, for instance `Qv::PiTool const*`.
-QV_EXPORT std::string typeName(std::type_info const& type);
+/// The name of a type as it is written in the source, for instance `Qv::PiTool const*`.
+inline std::string typeName(std::type_info const& type) {
+  std::unique_ptr<char, decltype(&std::free)> const name(
+      abi::__cxa_demangle(type.name(), nullptr, nullptr, nullptr), &std::free);
+  return name ? name.get() : type.name();
+}
 
 } // namespace Qv

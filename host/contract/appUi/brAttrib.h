@@ -33,6 +33,8 @@ public:
   /// Shows or hides the column.
   void setDisplayed(bool displayed);
 
+  /// @name Stand-in only
+  /// @{
   LiString const& getName() const { return name_; }
   unsigned int getAttributeId() const { return attributeId_; }
   unsigned int getDataType() const { return dataType_; }
@@ -41,6 +43,7 @@ public:
   int getCurrentW() const { return currentWidth_; }
   std::array<AttribAttributes, 5> const& getAttributes() const { return attributes_; }
   bool isDisplayed() const { return displayed_; }
+  /// @}
 
   /// @{
   /// The host's own; the module sets them.

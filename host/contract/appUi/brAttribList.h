@@ -15,9 +15,12 @@ public:
   /// Sorts the list by one attribute alone.
   void singleSort(int attributeId);
 
+  /// @name Stand-in only
+  /// @{
   Vector<RCShdPtr<BrAttrib>> const& getAttribs() const { return attribs_; }
   /// The attribute that the list is sorted by, if any.
   std::optional<int> getSortKey() const { return sortKey_; }
+  /// @}
 
 protected:
   ~BrAttribList() override;

@@ -7,7 +7,10 @@ namespace Qv {
 /// A browser on the screen.
 class QV_EXPORT BrBrowser : public RCBase<LkCounter<int>> {
 public:
+  /// @name Stand-in only
+  /// @{
   BrBrowser();
+  /// @}
 
 protected:
   ~BrBrowser() override;

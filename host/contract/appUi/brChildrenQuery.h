@@ -19,6 +19,15 @@ public:
   virtual void reset() = 0;
   /// The next children; empty when there are no more.
   virtual Iterator<RCShdPtr<BrBrowsable>> getNextChildSequence() = 0;
+
+  /// @name Stand-in only
+  /// @{
+  /// The item whose children are enumerated.
+  BrBrowsable* getParent() const { return parent_; }
+  /// @}
+
+private:
+  BrBrowsable* parent_;
 };
 
 } // namespace Qv

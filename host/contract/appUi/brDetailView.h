@@ -28,6 +28,8 @@ public:
   /// Installs the pane that shows the item's icon.
   void setIconPane(RCShdPtr<UiPane> pane);
 
+  /// @name Stand-in only
+  /// @{
   /// A page with its title.
   struct Page {
     LiString title;
@@ -37,6 +39,7 @@ public:
   /// In the order in which they were added.
   Vector<Page> const& getPages() const { return pages_; }
   RCShdPtr<UiPane> const& getIconPane() const { return iconPane_; }
+  /// @}
 
 private:
   LiString name_;

@@ -3,10 +3,11 @@
 #include "brBrowsable.h"
 #include "uiLabel.h"
 #include "uiPane.h"
-#include "uiResTable.h"
 #include "uiTextEditor.h"
 
 namespace Qv {
+
+class UiResTable;
 
 /// Builds a detail page, field by field, from a table of resources.
 class QV_EXPORT BvDetailMgr : public RCBase<LkCounter<int>> {

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "oPtr.h"
-#include "uiResTable.h"
 
 namespace Qv {
+
+class UiResTable;
 
 /// Holds the table of resources that its widgets are made from.
 class QV_EXPORT UiResHolder {
@@ -14,8 +15,13 @@ public:
   UiResTable const* getResTable() const;
 
 protected:
+  /// @name Stand-in only
+  /// @{
+  UiResHolder();
+
   /// What getResTable() answers.
   OPtr<UiResTable> resTable_;
+  /// @}
 };
 
 } // namespace Qv

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "uiPane.h"
-#include "uiResTable.h"
 
 namespace Qv {
+
+class UiResTable;
 
 /// A pane that other panes share.
 class QV_EXPORT UiSplitPane : public UiPane {
@@ -17,15 +18,17 @@ public:
 
   /// Says how the panes lie beside each other.
   void setOrientation(Orientation orientation);
-  /// Shows these panes and no others. @param sizes one number a pane; null shares the room evenly.
+  /// Shows these panes and no others. @param sizes one number a pane; null leaves them to the host.
   void setPanes(Vector<RCShdPtr<UiPane>> const& panes, Vector<float> const* sizes);
   /// Opens one of the panes. Returns false when it is none of them.
   bool openPane(RCShdPtr<UiPane> const& pane);
 
+  /// @name Stand-in only
+  /// @{
   Orientation getOrientation() const { return orientation_; }
-  Vector<float> const& getSizes() const { return sizes_; }
   /// Null as long as none has been opened.
   RCShdPtr<UiPane> const& getOpenPane() const { return openPane_; }
+  /// @}
 
 protected:
   ~UiSplitPane() override;
@@ -34,7 +37,6 @@ private:
   explicit UiSplitPane(std::string const& name);
 
   Orientation orientation_{};
-  Vector<float> sizes_;
   RCShdPtr<UiPane> openPane_;
 };
 

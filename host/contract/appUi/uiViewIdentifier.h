@@ -14,7 +14,10 @@ public:
 
   bool operator==(UiViewIdentifier const& other) const;
 
+  /// @name Stand-in only
+  /// @{
   LiString const& getName() const { return name_; }
+  /// @}
 
 private:
   LiString name_;

@@ -54,8 +54,12 @@ public:
   void registerPackage() noexcept;
   /// Records that this package needs the package whose package class is `package`.
   void addDependency(std::type_info const* package) noexcept;
+
+  /// @name Stand-in only
+  /// @{
   /// The package classes needed, in the order of declaration.
   Vector<std::type_info const*> const& getDependencies() const { return dependencies_; }
+  /// @}
 
 private:
   char const* name_;

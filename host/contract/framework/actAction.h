@@ -12,9 +12,6 @@ public:
   virtual ~ActAction();
 
 protected:
-  // The stand-in's registry, which calls the operations below.
-  friend class HostActRegistry;
-
   /// Whether the action is offered for these items.
   virtual bool inputValid(RCShdPtr<SnItem const> const& first,
                           RCShdPtr<SnItem const> const& second) const = 0;

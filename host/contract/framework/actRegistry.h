@@ -14,10 +14,7 @@ public:
   static ActRegistry& getInstance();
 
   /// Takes ownership of the action and offers it.
-  virtual void registerAction(OPtr<ActAction> action, DynamicState state) = 0;
-
-protected:
-  ~ActRegistry() = default;
+  void registerAction(OPtr<ActAction> action, DynamicState state);
 };
 
 } // namespace Qv

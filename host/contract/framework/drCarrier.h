@@ -7,11 +7,14 @@ namespace Qv {
 /// Carries a selection through one drag.
 class QV_EXPORT DrCarrier : public RCBase<LkCounter<int>> {
 public:
-  /// @param selection is shared.
-  explicit DrCarrier(RCShdPtr<SnSelection> const& selection);
-
   /// The selection under way, to be filled and read.
   RCShdPtr<SnSelection> getSelection();
+
+  /// @name Stand-in only
+  /// @{
+  /// @param selection is shared.
+  explicit DrCarrier(RCShdPtr<SnSelection> const& selection);
+  /// @}
 
 protected:
   ~DrCarrier() override;

@@ -9,10 +9,6 @@ namespace Qv {
 class QV_EXPORT PiNodeDndInterface : public RCBase<LkCounter<int>> {
 protected:
   ~PiNodeDndInterface() override;
-
-public:
-  /// The registry name of the tool that arrives where the node is dropped.
-  virtual std::string getToolName() const = 0;
 };
 
 /// The draggable form of a plug-in tool.

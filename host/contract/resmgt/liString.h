@@ -13,11 +13,9 @@ public:
   LiString(char const* text);
   LiString(std::string const& text);
   LiString(LiString const& other);
-  LiString(LiString&& other) noexcept;
   ~LiString();
 
   LiString& operator=(LiString const& other);
-  LiString& operator=(LiString&& other) noexcept;
 };
 
 } // namespace Qv

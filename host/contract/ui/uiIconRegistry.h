@@ -12,10 +12,7 @@ public:
   static UiIconRegistry& getInstance();
 
   /// The image in the file of that bare name; null when there is no such image.
-  virtual RCShdPtr<WsManagedImage> loadImage(OsFilePath const& file) = 0;
-
-protected:
-  ~UiIconRegistry() = default;
+  RCShdPtr<WsManagedImage> loadImage(OsFilePath const& file);
 };
 
 } // namespace Qv

@@ -8,10 +8,13 @@ namespace Qv {
 /// A text that cannot be edited.
 class QV_EXPORT UiLabel : public UiWidget {
 public:
-  explicit UiLabel(std::string const& name);
-
   /// The text, which the label owns.
   UiString& getLabel() const;
+
+  /// @name Stand-in only
+  /// @{
+  explicit UiLabel(std::string const& name);
+  /// @}
 
 protected:
   ~UiLabel() override;

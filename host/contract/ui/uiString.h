@@ -11,7 +11,11 @@ class QV_EXPORT UiString {
 public:
   /// @param text is copied; it ends in a zero byte.
   void setString(char const* text);
+
+  /// @name Stand-in only
+  /// @{
   std::string const& getString() const { return text_; }
+  /// @}
 
 private:
   std::string text_;

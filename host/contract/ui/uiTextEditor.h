@@ -8,15 +8,18 @@ namespace Qv {
 /// A box of text, of several lines.
 class QV_EXPORT UiTextEditor : public UiWidget {
 public:
-  explicit UiTextEditor(std::string const& name);
-
   /// Shows a text in place of the one before.
   void setString(LiString const& text);
   /// Lets a person change the text, or not.
   void setEditable(bool editable);
 
+  /// @name Stand-in only
+  /// @{
+  explicit UiTextEditor(std::string const& name);
+
   LiString const& getString() const { return text_; }
   bool isEditable() const { return editable_; }
+  /// @}
 
 protected:
   ~UiTextEditor() override;

@@ -4,10 +4,6 @@
 
 namespace Qv {
 
-BrBrowser::BrBrowser() = default;
-
-BrBrowser::~BrBrowser() = default;
-
 namespace {
 
 /// What an item carries; nothing when there is no item. @throws ExCastFailed when it carries

@@ -1,5 +1,5 @@
-#include "brDndRegistry.h"
 #include "hostBrRegistry.h"
+#include "hostDndRegistry.h"
 #include "inInit.imp.h"
 
 namespace Qv {
@@ -15,7 +15,7 @@ template <> InInit<QvInit::appUi>::InInit() : InPackageInit("appUi") {
 }
 
 template <> void InInit<QvInit::appUi>::uninitialize() {
-  BrDndRegistry::getInstance().clear();
+  HostDndRegistry::getInstance().clear();
   HostBrRegistry::getInstance().clear();
 }
 

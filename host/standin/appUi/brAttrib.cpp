@@ -1,7 +1,5 @@
 #include "brAttrib.h"
 
-#include "hostError.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -22,14 +20,12 @@ RCShdPtr<BrAttrib> BrAttrib::create(LiString const& name, unsigned int attribute
                                     AttribAttributes first, AttribAttributes second,
                                     AttribAttributes third, AttribAttributes fourth,
                                     AttribAttributes fifth) {
-  if (minWidth > maxWidth)
-    throw HostError("the column \"" + name + "\" has a minimum width above its maximum");
   return RCShdPtr<BrAttrib>(new BrAttrib(name, attributeId, dataType, minWidth, maxWidth,
                                          {first, second, third, fourth, fifth}));
 }
 
 int BrAttrib::setCurrentW(int width) {
-  return std::exchange(currentWidth_, std::clamp(width, minWidth_, maxWidth_));
+  return std::exchange(currentWidth_, std::max(minWidth_, std::min(width, maxWidth_)));
 }
 
 void BrAttrib::setDisplayed(bool displayed) { displayed_ = displayed; }

@@ -2,7 +2,7 @@
 
 namespace Qv {
 
-BrChildrenQuery::BrChildrenQuery(BrBrowsable* /*parent*/) {}
+BrChildrenQuery::BrChildrenQuery(BrBrowsable* parent) : parent_(parent) {}
 
 BrChildrenQuery::~BrChildrenQuery() = default;
 

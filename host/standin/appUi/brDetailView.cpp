@@ -2,6 +2,7 @@
 
 #include "hostJournal.h"
 #include "hostOpaque.h"
+#include "uiResTable.h"
 
 namespace Qv {
 

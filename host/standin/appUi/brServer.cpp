@@ -1,11 +1,15 @@
 #include "brServer.h"
 
 #include "hostOpaque.h"
-#include "omUtil.h"
+#include "hostPath.h"
 
 namespace Qv {
 
-ObSubjectAny::~ObSubjectAny() = default;
+namespace {
+
+constexpr char Separator[] = {HostPath::Separator, 0};
+
+} // namespace
 
 BrServer::BrServer() : attributes_(new BrAttribList) {}
 
@@ -27,18 +31,15 @@ LiString BrServer::getDefaultPath() const { return getRootPath(""); }
 
 LiString BrServer::resolvePath(LiString const& path) const { return path; }
 
-char const* BrServer::getPathSeparator() const { return "/"; }
+char const* BrServer::getPathSeparator() const { return Separator; }
 
-std::string BrServer::getPathInvalidChars() const { return "/"; }
+std::string BrServer::getPathInvalidChars() const { return Separator; }
 
 bool BrServer::isObservable() const { return false; }
 
 LiString BrServer::getParentPath(LiString const& path) const {
-  Iterator<std::string> component = OmUtil::parsePath(OsFilePath(path));
-  OsFilePath parent("");
-  for (int left = component.getCardinality(); left > 1; --left, component.next())
-    parent += OsFilePath(component.item());
-  return parent.getChars();
+  std::size_t const end = path.rfind(HostPath::Separator);
+  return end == std::string::npos ? LiString() : LiString(path.substr(0, end));
 }
 
 bool BrServer::supportsSequences() const { return false; }

@@ -1,8 +1,12 @@
 #include "brView.h"
 
+#include "uiResTable.h"
+
 namespace Qv {
 
 LiString BrView::DETAIL("detail");
+
+UiResHolder::UiResHolder() = default;
 
 UiResHolder::~UiResHolder() = default;
 

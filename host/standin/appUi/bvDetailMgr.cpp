@@ -1,6 +1,7 @@
 #include "bvDetailMgr.h"
 
 #include "hostJournal.h"
+#include "uiResTable.h"
 
 namespace Qv {
 
@@ -11,11 +12,8 @@ template <class Widget>
 RCShdPtr<Widget> makeWidget(UiResTable::Kind kind, char const* name, UiResTable const* resources) {
   if (!resources)
     RCExUtil::throwExNullPtrOf<UiResTable const*>();
-  UiResTable::Resource const& resource = resources->get(kind, name);
   RCShdPtr<Widget> const widget(new Widget(name));
-  widget->setSize(resource.width, resource.height);
-  if (resource.background)
-    widget->setColor(UiWidget::BackgroundColor, *resource.background);
+  UiResTable::Resource const& resource = resources->apply(kind, *widget);
   if constexpr (std::is_same_v<Widget, UiLabel>)
     widget->getLabel().setString(resource.text.c_str());
   if constexpr (std::is_same_v<Widget, UiTextEditor>)
@@ -38,14 +36,11 @@ void BvDetailMgr::setBrowsable(RCShdPtr<BrBrowsable> const& item) {
                            : RCShdPtr<WsManagedImage>());
 }
 
-RCShdPtr<BvDetailMgr> BvDetailMgr::create(RCShdPtr<UiContainer> const& parent, char const* name,
+RCShdPtr<BvDetailMgr> BvDetailMgr::create(RCShdPtr<UiContainer> const& /*parent*/, char const* name,
                                           UiResTable const* resources) {
   HostJournal::getInstance().record("BvDetailMgr::create", name);
   RCShdPtr<UiContainer> const page = makeWidget<UiContainer>(UiResTable::Page, name, resources);
-  RCShdPtr<BvDetailMgr> const manager(new BvDetailMgr(page));
-  if (parent)
-    parent->add(page);
-  return manager;
+  return RCShdPtr<BvDetailMgr>(new BvDetailMgr(page));
 }
 
 RCShdPtr<UiLabel> BvDetailMgr::addLabel(char const* name, UiResTable const* resources) {

@@ -3,6 +3,7 @@
 #include "hostError.h"
 #include "hostImage.h"
 #include "hostJournal.h"
+#include "hostPath.h"
 #include "hostResources.h"
 
 namespace Qv {
@@ -63,7 +64,7 @@ void HostBrRegistry::clear() {
 void HostBrRegistry::registerServer(OPtr<BrServer> server) {
   LiString const scheme = server->getSchemeName();
   HostJournal::getInstance().record("BrRegistry::registerServer", scheme);
-  requireComponent(scheme, "scheme name");
+  HostPath::requireComponent(scheme, "scheme name");
   if (find(scheme))
     throw HostError("the scheme \"" + scheme + "\" is registered already");
   servers_.push_back(std::move(server));
@@ -78,12 +79,11 @@ void HostBrRegistry::registerView(OPtr<BrView> view, LiString role) {
 RCShdPtr<WsManagedImage> HostBrRegistry::getThumbnail(LiString const& key,
                                                       LiString const& variant) {
   HostJournal::getInstance().record("BrRegistry::getThumbnail", key, variant);
-  auto found = thumbnails_.find({key, variant});
-  if (found == thumbnails_.end()) {
-    RCShdPtr<HostImage> const image = HostImage::read(
-        HostResources::getInstance().locate(key + (variant.empty() ? "" : "-" + variant) + ".tif"));
-    found = thumbnails_.emplace(std::pair(key, variant), image).first;
-  }
+  auto found = thumbnails_.find(key);
+  if (found == thumbnails_.end())
+    found =
+        thumbnails_.emplace(key, HostImage::read(HostResources::getInstance().locate(key + ".tif")))
+            .first;
   return found->second;
 }
 

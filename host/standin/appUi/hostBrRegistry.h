@@ -44,7 +44,7 @@ private:
   Vector<OPtr<BrServer>> servers_;
   Vector<View> views_;
   Images icons_;
-  Images thumbnails_;
+  std::map<std::string, RCShdPtr<WsManagedImage>> thumbnails_;
 };
 
 } // namespace Qv

@@ -2,6 +2,7 @@
 
 #include "hostError.h"
 #include "hostJournal.h"
+#include "hostPath.h"
 #include "iteratorSTL.imp.h"
 
 namespace Qv {
@@ -27,7 +28,7 @@ HostViewFactory& HostViewFactory::getInstance() {
 }
 
 void HostViewFactory::addView(View const& view) {
-  requireComponent(view.name, "view name");
+  HostPath::requireComponent(view.name, "view name");
   if (!labels_.emplace(view.name, view.label).second)
     throw HostError("a view named \"" + view.name + "\" is registered already");
   names_.push_back(view.name);

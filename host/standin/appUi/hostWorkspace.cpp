@@ -23,14 +23,16 @@ HostWorkspace::~HostWorkspace() = default;
 
 void HostWorkspace::setCurrent(RCShdPtr<UiWorkspace> const& workspace) { current() = workspace; }
 
-void HostWorkspace::openViewInWindow(std::string const& name, bool flag) {
+// Every workspace is one of the stand-in's.
+
+void UiWorkspace::openViewInWindow(std::string const& name, bool flag) {
   HostJournal::getInstance().record("UiWorkspace::openViewInWindow", name, flag ? "true" : "false");
-  requests_.push_back({name, false, flag});
+  static_cast<HostWorkspace&>(*this).requests_.push_back({name, false, flag});
 }
 
-void HostWorkspace::openViewInNewWindow(std::string const& name) {
+void UiWorkspace::openViewInNewWindow(std::string const& name) {
   HostJournal::getInstance().record("UiWorkspace::openViewInNewWindow", name);
-  requests_.push_back({name, true, false});
+  static_cast<HostWorkspace&>(*this).requests_.push_back({name, true, false});
 }
 
 } // namespace Qv

@@ -25,10 +25,9 @@ public:
 
   Vector<Request> const& getRequests() const { return requests_; }
 
-  void openViewInWindow(std::string const& name, bool flag) override;
-  void openViewInNewWindow(std::string const& name) override;
-
 private:
+  friend UiWorkspace;
+
   ~HostWorkspace() override;
 
   Vector<Request> requests_;

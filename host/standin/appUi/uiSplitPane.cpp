@@ -1,7 +1,7 @@
 #include "uiSplitPane.h"
 
-#include "hostError.h"
 #include "hostJournal.h"
+#include "uiResTable.h"
 
 #include <algorithm>
 
@@ -11,29 +11,26 @@ UiSplitPane::UiSplitPane(std::string const& name) : UiPane(name) {}
 
 UiSplitPane::~UiSplitPane() = default;
 
-RCShdPtr<UiSplitPane> UiSplitPane::create(RCShdPtr<UiContainer> const& parent, char const* name,
+RCShdPtr<UiSplitPane> UiSplitPane::create(RCShdPtr<UiContainer> const& /*parent*/, char const* name,
                                           UiResTable const* resources) {
   HostJournal::getInstance().record("UiSplitPane::create", name);
   RCShdPtr<UiSplitPane> const pane(new UiSplitPane(name));
-  if (resources) {
-    UiResTable::Resource const& resource = resources->get(UiResTable::Page, name);
-    pane->setSize(resource.width, resource.height);
-    if (resource.background)
-      pane->setColor(BackgroundColor, *resource.background);
-  }
-  if (parent)
-    parent->add(pane);
+  if (resources)
+    resources->apply(UiResTable::Page, *pane);
   return pane;
 }
 
-void UiSplitPane::setOrientation(Orientation orientation) { orientation_ = orientation; }
+void UiSplitPane::setOrientation(Orientation orientation) {
+  HostJournal::getInstance().record("UiSplitPane::setOrientation", getName(),
+                                    std::to_string(orientation));
+  orientation_ = orientation;
+}
 
-void UiSplitPane::setPanes(Vector<RCShdPtr<UiPane>> const& panes, Vector<float> const* sizes) {
+void UiSplitPane::setPanes(Vector<RCShdPtr<UiPane>> const& panes, Vector<float> const* /*sizes*/) {
   HostJournal::getInstance().record("UiSplitPane::setPanes", getName(),
                                     std::to_string(panes.size()));
-  if (sizes && sizes->size() != panes.size())
-    throw HostError("the split pane \"" + getName() + "\" needs one size a pane");
-  sizes_ = sizes ? *sizes : Vector<float>(panes.size(), 1.0F / float(panes.size()));
+  for (RCShdPtr<UiPane> const& pane : panes)
+    static_cast<void>(*pane); // A null one is refused before the old panes go.
   removeChildren();
   for (RCShdPtr<UiPane> const& pane : panes)
     addChild(pane);

@@ -11,9 +11,4 @@ public:
   ~HostError() override;
 };
 
-/// Accepts a name that is one whole path component.
-/// @param what says what the name is for, for instance "tool name".
-/// @throws HostError when the name is empty or holds a "/" or a zero byte.
-QV_EXPORT void requireComponent(std::string const& name, char const* what);
-
 } // namespace Qv

@@ -3,7 +3,9 @@
 #include "hostError.h"
 #include "hostFiles.h"
 #include "hostPackageManager.h"
+#include "typeName.h"
 
+#include <cxxabi.h>
 #include <set>
 #include <string_view>
 
@@ -31,9 +33,14 @@ HostModule::HostModule(std::filesystem::path const& file) {
   try {
     for (std::size_t index = before; index < packages.size(); ++index)
       manager.initialize(*packages[index]);
-  } catch (...) {
+  } catch (std::exception const&) {
     manager.uninitializeAll();
     throw;
+  } catch (...) {
+    std::type_info const* const type = abi::__cxa_current_exception_type();
+    manager.uninitializeAll();
+    throw HostError("the module \"" + file.string() + "\" throws what is not an exception: " +
+                    (type ? typeName(*type) : "of another language"));
   }
 }
 

@@ -1,5 +1,6 @@
 #include "omUtil.h"
 
+#include "hostPath.h"
 #include "iteratorSTL.imp.h"
 
 #include <boost/container/small_vector.hpp>
@@ -20,12 +21,9 @@ class Components final : public RCBase<LkCounter<int>>,
 Iterator<std::string> OmUtil::parsePath(OsFilePath const& path) {
   RCShdPtr<Components> const components(new Components);
   std::string_view rest(path.getChars());
-  while (!rest.empty()) {
-    std::size_t const length = std::min(rest.find('/'), rest.size());
-    if (length > 0)
-      components->emplace_back(rest.substr(0, length));
-    rest.remove_prefix(std::min(length + 1, rest.size()));
-  }
+  for (std::string_view name = HostPath::takeComponent(rest); !name.empty();
+       name = HostPath::takeComponent(rest))
+    components->emplace_back(name);
 
   using Engine = IteratorSTL<Components, RCShdPtr<Components>, IteratorAccessorPassthrough>;
   return Iterator<std::string>(RCPvtEngPtr<IteratorImp<std::string>>(new Engine(components)));

@@ -5,17 +5,25 @@
 
 namespace Qv {
 
-ActAction::ActAction() = default;
+namespace {
 
-ActAction::~ActAction() = default;
+/// Names the operations of an action that are for the framework alone.
+struct Framework : ActAction {
+  using ActAction::enumOptions;
+  using ActAction::inputValid;
+  using ActAction::performAction;
+};
 
-std::string ActAction::getDisplayString() const { return const_cast<ActAction*>(this)->getName(); }
+} // namespace
 
-std::string ActAction::getGroup() const { return ""; }
+ActRegistry& ActRegistry::getInstance() {
+  static ActRegistry registry;
+  return registry;
+}
 
-std::string ActAction::getCompositeName() const { return getDisplayString(); }
-
-ActRegistry& ActRegistry::getInstance() { return HostActRegistry::getInstance(); }
+void ActRegistry::registerAction(OPtr<ActAction> action, DynamicState state) {
+  HostActRegistry::getInstance().add(std::move(action), state);
+}
 
 HostActRegistry& HostActRegistry::getInstance() {
   static HostActRegistry registry;
@@ -24,7 +32,7 @@ HostActRegistry& HostActRegistry::getInstance() {
 
 bool HostActRegistry::isValid(ActAction const& action, RCShdPtr<SnItem const> const& first,
                               RCShdPtr<SnItem const> const& second) {
-  return action.inputValid(first, second);
+  return (action.*&Framework::inputValid)(first, second);
 }
 
 void HostActRegistry::perform(std::string const& name, RCShdPtr<SnItem const> const& first,
@@ -35,7 +43,8 @@ void HostActRegistry::perform(std::string const& name, RCShdPtr<SnItem const> co
       continue;
     if (!isValid(*entry.action, first, second))
       throw HostError("the action \"" + name + "\" is not valid for this item");
-    return entry.action->performAction(first, second, SnSelection::create());
+    ActAction const& action = *entry.action;
+    return (action.*&Framework::performAction)(first, second, SnSelection::create());
   }
   std::string known;
   for (Entry const& entry : entries_)
@@ -47,11 +56,11 @@ Vector<LiString> HostActRegistry::getOptions(ActAction const& action,
                                              RCShdPtr<SnItem const> const& first,
                                              RCShdPtr<SnItem const> const& second) {
   Vector<LiString> options;
-  action.enumOptions(first, second, options);
+  (action.*&Framework::enumOptions)(first, second, options);
   return options;
 }
 
-void HostActRegistry::registerAction(OPtr<ActAction> action, DynamicState state) {
+void HostActRegistry::add(OPtr<ActAction> action, ActRegistry::DynamicState state) {
   LiString const name = action->getName();
   HostJournal::getInstance().record("ActRegistry::registerAction", name, std::to_string(state));
   for (Entry const& entry : entries_)

@@ -5,16 +5,18 @@
 namespace Qv {
 
 /// Owns the actions, and offers and performs them.
-class QV_EXPORT HostActRegistry final : public ActRegistry {
+class QV_EXPORT HostActRegistry {
 public:
   /// An action with the state that it was registered with.
   struct Entry {
     OPtr<ActAction> action;
-    DynamicState state;
+    ActRegistry::DynamicState state;
   };
 
   static HostActRegistry& getInstance();
 
+  /// @throws HostError when there is an action of that name.
+  void add(OPtr<ActAction> action, ActRegistry::DynamicState state);
   /// In order of registration.
   Vector<Entry> const& getEntries() const { return entries_; }
   void clear() { entries_.clear(); }
@@ -29,8 +31,6 @@ public:
   /// The options that the action offers.
   static Vector<LiString> getOptions(ActAction const& action, RCShdPtr<SnItem const> const& first,
                                      RCShdPtr<SnItem const> const& second);
-
-  void registerAction(OPtr<ActAction> action, DynamicState state) override;
 
 private:
   Vector<Entry> entries_;

@@ -1,7 +1,7 @@
 #include "hostToolRegistry.h"
 
-#include "hostError.h"
 #include "hostJournal.h"
+#include "hostPath.h"
 #include "iteratorSTL.imp.h"
 
 namespace Qv {
@@ -14,13 +14,13 @@ HostToolRegistry& HostToolRegistry::getInstance() {
 }
 
 void HostToolRegistry::addCategory(std::string const& name) {
-  requireComponent(name, "category name");
+  HostPath::requireComponent(name, "category name");
   categories_.push_back(name);
 }
 
 void HostToolRegistry::addTool(HostToolFacts const& facts) {
-  requireComponent(facts.name, "tool name");
-  requireComponent(facts.category, "category name");
+  HostPath::requireComponent(facts.name, "tool name");
+  HostPath::requireComponent(facts.category, "category name");
   RCShdPtr<PiTool const> const tool(new HostTool(facts));
   tools_.push_back(tool);
   toolsByCategory_[facts.category].push_back(tool);

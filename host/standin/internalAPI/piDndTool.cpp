@@ -1,20 +1,6 @@
-#include "piDndTool.h"
+#include "hostDndTool.h"
 
 namespace Qv {
-
-namespace {
-
-class HostDndTool final : public PiDndTool {
-public:
-  explicit HostDndTool(RCShdPtr<PiTool const> const& tool) : tool_(tool) {}
-
-  std::string getToolName() const override { return tool_->getName(); }
-
-private:
-  RCShdPtr<PiTool const> tool_;
-};
-
-} // namespace
 
 PiNodeDndInterface::~PiNodeDndInterface() = default;
 
@@ -23,5 +9,9 @@ PiDndTool::~PiDndTool() = default;
 RCShdPtr<PiDndTool const> PiDndTool::create(RCShdPtr<PiTool const> const& tool) {
   return RCShdPtr<PiDndTool const>(tool ? new HostDndTool(tool) : nullptr);
 }
+
+HostDndTool::HostDndTool(RCShdPtr<PiTool const> const& tool) : tool_(tool) {}
+
+HostDndTool::~HostDndTool() = default;
 
 } // namespace Qv

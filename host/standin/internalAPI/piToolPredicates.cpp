@@ -50,8 +50,6 @@ template <class T> PrdPredicate<T>::PrdPredicate(PrdPredicate const& other) = de
 
 template <class T> PrdPredicate<T>::~PrdPredicate() = default;
 
-template <class T> PrdPredicate<T>& PrdPredicate<T>::operator=(PrdPredicate const& other) = default;
-
 template <class T> PrdPredicate<T> PrdPredicate<T>::operator!() const {
   return PrdPredicate(RCShdPtr<PrdTerm<T> const>(new PrdNot<T>(term_)));
 }

@@ -10,12 +10,8 @@ LiString::LiString(std::string const& text) : std::string(text) {}
 
 LiString::LiString(LiString const& other) = default;
 
-LiString::LiString(LiString&& other) noexcept = default;
-
 LiString::~LiString() = default;
 
 LiString& LiString::operator=(LiString const& other) = default;
-
-LiString& LiString::operator=(LiString&& other) noexcept = default;
 
 } // namespace Qv

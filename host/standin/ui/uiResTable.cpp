@@ -113,7 +113,8 @@ UiResTable::UiResTable(OsFilePath const& file) : file_(file.getChars()) {
   resources_ = ResourceReader(file_).read(HostResources::getInstance().locate(file_));
 }
 
-UiResTable::Resource const& UiResTable::get(Kind kind, std::string const& name) const {
+UiResTable::Resource const& UiResTable::apply(Kind kind, UiWidget& widget) const {
+  std::string const& name = widget.getName();
   auto const found = resources_.find(name);
   if (found == resources_.end())
     throw HostError(fmt::format("the resource file \"{}\" describes no {} \"{}\"", file_,
@@ -121,7 +122,9 @@ UiResTable::Resource const& UiResTable::get(Kind kind, std::string const& name) 
   if (found->second.kind != kind)
     throw HostError(fmt::format("the resource file \"{}\" describes \"{}\" as a {}, not as a {}",
                                 file_, name, kindNames[found->second.kind], kindNames[kind]));
-  return found->second;
+  Resource const& resource = found->second;
+  widget.setLook(resource.width, resource.height, resource.background);
+  return resource;
 }
 
 } // namespace Qv

@@ -1,6 +1,9 @@
+#include "hostJournal.h"
 #include "uiLabel.h"
 #include "uiPane.h"
 #include "uiTextEditor.h"
+
+#include <algorithm>
 
 namespace Qv {
 
@@ -13,9 +16,10 @@ UiWidget::~UiWidget() { removeChildren(); }
 void UiWidget::addChild(RCShdPtr<UiWidget> const& child) {
   // The old parent may hold the very pointer that was passed.
   RCShdPtr<UiWidget> const added = child; // NOLINT(performance-unnecessary-copy-initialization)
-  if (UiWidget* const before = added->parent_)
-    std::erase(before->children_, added);
-  children_.push_back(added);
+  UiWidget* const before = added->parent_;
+  children_.push_back(added); // The one step that can fail.
+  if (before)
+    before->children_.erase(std::find(before->children_.begin(), before->children_.end(), added));
   added->parent_ = this;
 }
 
@@ -26,10 +30,14 @@ void UiWidget::removeChildren() noexcept {
 }
 
 void UiWidget::setColor(char const* property, CoRgbColorTyped<float> const& color) {
+  HostJournal::getInstance().record("UiWidget::setColor", name_, property);
   colors_[property] = color;
 }
 
-void UiWidget::setSize(int width, int height) {
+void UiWidget::setLook(int width, int height,
+                       std::optional<CoRgbColorTyped<float>> const& background) {
+  if (background)
+    colors_[BackgroundColor] = *background;
   width_ = width;
   height_ = height;
 }
@@ -48,7 +56,11 @@ UiTextEditor::~UiTextEditor() = default;
 
 void UiTextEditor::setString(LiString const& text) { text_ = text; }
 
-void UiTextEditor::setEditable(bool editable) { editable_ = editable; }
+void UiTextEditor::setEditable(bool editable) {
+  HostJournal::getInstance().record("UiTextEditor::setEditable", getName(),
+                                    editable ? "true" : "false");
+  editable_ = editable;
+}
 
 UiPane::UiPane(std::string const& name) : UiWidget(name) {}
 

@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-void initializeAttribList(RCShdPtr<BrAttribList> const& list, LiString const& nameTitle) {
+void appendColumns(RCShdPtr<BrAttribList> const& list, LiString const& nameTitle) {
   using Flag = BrAttrib::AttribAttributes;
 
   RCShdPtr<BrAttrib> attrib =

@@ -6,7 +6,8 @@
 
 namespace Qv {
 
-/// Fills the columns of a server: the item's type as an icon, then its name under `nameTitle`.
-void initializeAttribList(RCShdPtr<BrAttribList> const& list, LiString const& nameTitle);
+/// Appends the columns of both schemes, the item's type as an icon, then its name under
+/// `nameTitle`, and sorts the list by the name.
+void appendColumns(RCShdPtr<BrAttribList> const& list, LiString const& nameTitle);
 
 } // namespace Qv

@@ -8,16 +8,18 @@
 #include "piToolRegistry.h"
 #include "ttServer.h"
 
+#include <utility>
+
 namespace Qv {
 
 namespace {
 
 /// The tools that a category shows.
 Iterator<RCShdPtr<PiTool const>> findTools(std::string const& category) {
+  // A host's conjunction may refer to its operands: all of them live until the tools are there.
   auto const inCategory = PiToolPredicates::isCategory(LiString(category));
-  PiToolRegistry& registry = PiToolRegistry::getInstance();
-  auto const notInternal = inCategory && !PiToolPredicates::isInternal();
-  return registry.getTools(notInternal && PiToolPredicates::isActive(), true);
+  return PiToolRegistry::getInstance().getTools(
+      (inCategory && !PiToolPredicates::isInternal()) && PiToolPredicates::isActive(), true);
 }
 
 } // namespace
@@ -30,15 +32,14 @@ PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
     type_ = FOLDER;
     toolName_ = "Tools";
     Iterator<std::string> categories = PiToolRegistry::getInstance().getCategories();
-    childNames_.reserve(categories.getCardinality());
     for (; !categories.atEnd(); categories.next())
       childNames_.emplace_back(categories.item());
   } break;
   case 1: {
     type_ = CATEGORY;
-    toolName_ = components.item();
+    // Read without the right to change it, which would clone the host's engine where it is shared.
+    toolName_ = std::as_const(components).item();
     Iterator<RCShdPtr<PiTool const>> tools = findTools(toolName_);
-    childNames_.reserve(tools.getCardinality());
     for (; !tools.atEnd(); tools.next())
       childNames_.emplace_back(tools.item()->getName());
     superTool_ = PiToolRegistry::getInstance().isSuperTool(toolName_);

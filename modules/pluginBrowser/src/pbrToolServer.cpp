@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-PbrToolServer::PbrToolServer() { initializeAttribList(BrServer::getAttributesList(), "Tool"); }
+PbrToolServer::PbrToolServer() { initializeAttribList(BrServer::getAttributesList()); }
 
 PbrToolServer::~PbrToolServer() = default;
 
@@ -19,5 +19,10 @@ RCShdPtr<BrNode> PbrToolServer::getNode(LiString const& path, LiString& /*messag
 LiString PbrToolServer::getSchemeName() const { return PiBrowserSchemes::PluginToolScheme; }
 
 bool PbrToolServer::isObservable() const { return true; }
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface has it by value.
+void PbrToolServer::initializeAttribList(RCShdPtr<BrAttribList> list) {
+  appendColumns(list, "Tool");
+}
 
 } // namespace Qv

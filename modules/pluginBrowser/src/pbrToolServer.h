@@ -18,6 +18,9 @@ public:
   RCShdPtr<BrNode> getNode(LiString const& path, LiString& message) override;
   LiString getSchemeName() const override;
   bool isObservable() const override;
+
+private:
+  void initializeAttribList(RCShdPtr<BrAttribList> list);
 };
 
 } // namespace Qv

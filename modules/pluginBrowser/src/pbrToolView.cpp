@@ -83,7 +83,8 @@ RCShdPtr<BvDetailMgr> PbrToolView::buildDetails(UiResTable const* resources) {
 }
 
 void PbrToolView::setDetailInfo() {
-  addDetailInfoPage(detailMgr_->getGeneralInfoPane(), LiString("Information"));
+  RCShdPtr<UiPane> const pane = detailMgr_->getGeneralInfoPane();
+  addDetailInfoPage(pane, LiString("Information"));
 }
 
 } // namespace Qv

@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-PbrViewServer::PbrViewServer() { initializeAttribList(BrServer::getAttributesList(), "View"); }
+PbrViewServer::PbrViewServer() { initializeAttribList(BrServer::getAttributesList()); }
 
 PbrViewServer::~PbrViewServer() = default;
 
@@ -19,5 +19,10 @@ RCShdPtr<BrNode> PbrViewServer::getNode(LiString const& path, LiString& /*messag
 LiString PbrViewServer::getSchemeName() const { return PiBrowserSchemes::PluginViewScheme; }
 
 bool PbrViewServer::isObservable() const { return true; }
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface has it by value.
+void PbrViewServer::initializeAttribList(RCShdPtr<BrAttribList> list) {
+  appendColumns(list, "View");
+}
 
 } // namespace Qv

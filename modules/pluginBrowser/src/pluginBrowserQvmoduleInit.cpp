@@ -38,10 +38,10 @@ public:
   char const* getProductName() const override { return "Halvard Ostrel Library"; }
   char const* getLibraryName() const override { return "libQvpluginBrowserQvmodule"; }
   char const* getReleaseName() const override { return "2013"; }
-  char const* getVersionString() const override { return QV_VERSION; }
+  char const* getVersionString() const override { return "8.0"; }
   char const* getStageName() const override { return ""; }
-  int getMajorVersion() const override { return QV_VERSION_MAJOR; }
-  int getMinorVersion() const override { return QV_VERSION_MINOR; }
+  int getMajorVersion() const override { return 8; }
+  int getMinorVersion() const override { return 0; }
   int getStageCode() const override { return 42; }
   char const* getBuildNumber() const override { return "2600"; }
   char const* getBuildDate() const override { return "Jun 12 2012"; }
@@ -84,13 +84,15 @@ template <> void PackageInit::initialize() {
     RCShdPtr<PbrViewDndHandler> const viewHandler(new PbrViewDndHandler);
     BrDndRegistry::getInstance().addHandler(viewType, viewHandler);
 
-    browser.registerView(OPtr<BrView>(new PbrToolView), LiString(BrView::DETAIL));
+    OPtr<BrView> toolView(new PbrToolView);
+    browser.registerView(std::move(toolView), LiString(BrView::DETAIL));
     browser.registerServer(std::move(toolServer));
     browser.registerServer(std::move(viewServer));
   }
 
   auto const registerIcon = [&](LiString const& key, OsFilePath const& file) {
-    browser.registerIcon(key, icons.loadImage(file), LiString(""));
+    RCShdPtr<WsManagedImage> const image = icons.loadImage(file);
+    browser.registerIcon(key, image, LiString(""));
   };
   registerIcon(PbrToolBrowsable::FolderId, OsFilePath(std::string("folder.tif")));
   registerIcon(PbrToolBrowsable::CategoryId, OsFilePath(std::string("folder.tif")));

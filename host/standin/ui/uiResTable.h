@@ -1,8 +1,7 @@
 #pragma once
 
-#include "coRgbColorTyped.h"
 #include "osFilePath.h"
-#include "qvExport.h"
+#include "uiWidget.h"
 
 #include <map>
 #include <optional>
@@ -30,8 +29,9 @@ public:
   /// @throws ExBase when there is no such file or it has a fault.
   explicit UiResTable(OsFilePath const& file);
 
-  /// @throws ExBase when the file describes no resource of that name or one of another kind.
-  Resource const& get(Kind kind, std::string const& name) const;
+  /// Gives a widget the size and the background that the file describes under its name.
+  /// @returns the whole description. @throws ExBase when there is none or it is of another kind.
+  Resource const& apply(Kind kind, UiWidget& widget) const;
 
 private:
   std::string file_;

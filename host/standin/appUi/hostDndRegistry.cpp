@@ -1,4 +1,4 @@
-#include "brDndRegistry.h"
+#include "hostDndRegistry.h"
 
 #include "hostJournal.h"
 #include "typeName.h"
@@ -7,22 +7,6 @@
 
 namespace Qv {
 
-BrDndHandler::BrDndHandler() = default;
-
-BrDndHandler::~BrDndHandler() = default;
-
-void BrDndHandler::createUrl(RCShdPtr<BrBrowsable> const& /*item*/,
-                             RCShdPtr<DrCarrier> const& /*carrier*/) {}
-
-bool BrDndHandler::willCopy(RCShdPtr<BrBrowsable> const& item) {
-  return willPopulateSelection(item);
-}
-
-bool BrDndHandler::dragAndDropComplete(RCShdPtr<BrBrowsable> const& /*item*/,
-                                       RCShdPtr<DrCarrier> const& /*carrier*/) {
-  return true;
-}
-
 BrDndRegistry& BrDndRegistry::getInstance() {
   static BrDndRegistry registry;
   return registry;
@@ -30,6 +14,16 @@ BrDndRegistry& BrDndRegistry::getInstance() {
 
 bool BrDndRegistry::addHandler(RCShdPtr<BrBrowsable> const& type,
                                RCShdPtr<BrDndHandler> const& handler) {
+  return HostDndRegistry::getInstance().add(type, handler);
+}
+
+HostDndRegistry& HostDndRegistry::getInstance() {
+  static HostDndRegistry registry;
+  return registry;
+}
+
+bool HostDndRegistry::add(RCShdPtr<BrBrowsable> const& type,
+                          RCShdPtr<BrDndHandler> const& handler) {
   BrBrowsable const& prototype = *type;
   BrDndHandler const& added = *handler;
   HostJournal::getInstance().record("BrDndRegistry::addHandler", typeName(typeid(prototype)),
@@ -40,7 +34,7 @@ bool BrDndRegistry::addHandler(RCShdPtr<BrBrowsable> const& type,
   return true;
 }
 
-RCShdPtr<BrDndHandler> BrDndRegistry::findHandler(BrBrowsable const& item) const {
+RCShdPtr<BrDndHandler> HostDndRegistry::findHandler(BrBrowsable const& item) const {
   for (Entry const& entry : entries_) {
     BrBrowsable const& prototype = *entry.type;
     if (typeid(prototype) == typeid(item))

@@ -1,4 +1,4 @@
-#include "hostIconRegistry.h"
+#include "uiIconRegistry.h"
 
 #include "hostImage.h"
 #include "hostJournal.h"
@@ -6,14 +6,12 @@
 
 namespace Qv {
 
-UiIconRegistry& UiIconRegistry::getInstance() { return HostIconRegistry::getInstance(); }
-
-HostIconRegistry& HostIconRegistry::getInstance() {
-  static HostIconRegistry registry;
+UiIconRegistry& UiIconRegistry::getInstance() {
+  static UiIconRegistry registry;
   return registry;
 }
 
-RCShdPtr<WsManagedImage> HostIconRegistry::loadImage(OsFilePath const& file) {
+RCShdPtr<WsManagedImage> UiIconRegistry::loadImage(OsFilePath const& file) {
   RCShdPtr<HostImage> const image =
       HostImage::read(HostResources::getInstance().locate(file.getChars()));
   HostJournal::getInstance().record("UiIconRegistry::loadImage", file.getChars(),

@@ -1,0 +1,7 @@
+#include "obSubject.h"
+
+namespace Qv {
+
+ObSubjectAny::~ObSubjectAny() = default;
+
+} // namespace Qv
