@@ -59,6 +59,7 @@ Session::Session(Options const& options) {
 }
 
 Session::Registries::~Registries() {
+  HostJournal::getInstance().start();
   HostJournal::getInstance().stop();
   HostWorkspace::setCurrent(RCShdPtr<HostWorkspace>());
   HostToolRegistry::getInstance().clear();
