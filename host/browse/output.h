@@ -1,72 +1,67 @@
 #pragma once
 
-#include "rcShdPtr.h"
-#include "wsManagedImage.h"
+#include "json.h"
+#include "pager.h"
 
 #include <fmt/color.h>
-#include <nlohmann/json.hpp>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace Qv {
 
-using Json = nlohmann::ordered_json;
+/// What is at the other end of the standard output.
+struct Terminal {
+  static Terminal ofStandardOutput();
 
-/// Writes text on stdout. @throws HostError when that fails.
-void writeText(std::string const& text);
-
-/// Writes formatted text on stdout. @throws HostError when that fails.
-template <class... Args> void printText(fmt::format_string<Args...> format, Args const&... values) {
-  writeText(fmt::vformat(format, fmt::make_format_args(values...)));
-}
-
-/// What is known of an image; null when there is none.
-Json describeImage(RCShdPtr<WsManagedImage> const& image);
-std::string imageText(Json const& image);
-
-/// Writes JSON on stdout. Names come from files: bytes that are no UTF-8 are replaced.
-void printJson(Json const& json);
-
-/// Hands all that was printed to whoever reads it. @throws HostError when that fails.
-void flushOutput();
-
-/// While it lives, what is written on a terminal goes through a pager: the one that PAGER names,
-/// none when it is empty, and less when it is not set. One at a time.
-class Paging {
-public:
-  Paging();
-  ~Paging();
-  Paging(Paging const&) = delete;
-  Paging& operator=(Paging const&) = delete;
-
-  /// Waits until the person has left the pager. @throws HostError when there is no such pager.
-  void end();
+  /// Whether it is a terminal at all.
+  bool present;
+  /// Never where NO_COLOR is set.
+  bool colours;
 };
 
-/// Says on stderr what went wrong; what cannot be written there is lost.
-void printProblem(std::string const& problem);
-
-/// Text on stdout for a person.
-class Terminal {
+/// Where a command writes its result: the standard output, through a pager where there is one. What
+/// cannot be written throws std::runtime_error.
+class Output {
 public:
-  /// Colours are used on a terminal only, and never where NO_COLOR is set.
-  Terminal();
+  using Row = std::vector<std::string>;
+
+  /// @param json whether commands write JSON, and without a pager then.
+  Output(Terminal terminal, bool json, bool paged);
+
+  bool isJson() const { return json_; }
+
+  void write(std::string const& text);
+  template <class... Args> void print(fmt::format_string<Args...> format, Args const&... values) {
+    write(fmt::vformat(format, fmt::make_format_args(values...)));
+  }
+  /// Bytes that are not UTF-8 are replaced: names come from files.
+  void printJson(Json const& json);
+  /// Prints aligned columns under a heading. A cell holds any characters.
+  void printTable(Row const& heading, std::vector<Row> rows);
+  /// Prints the elements of an array: as JSON, or as a table with one row for each.
+  void printList(Json const& elements, Row const& heading,
+                 std::function<Row(Json const&)> const& describe);
 
   /// The text in a style, or as it is where there are no colours.
   std::string styled(fmt::text_style style, std::string const& text) const;
-  /// Writes rows with their columns aligned, under a heading. A cell holds plain text of any
-  /// characters.
-  void printTable(std::vector<std::string> const& heading,
-                  std::vector<std::vector<std::string>> rows) const;
+
+  /// Hands over all that was written, and waits until the user has read it.
+  void finish();
 
 private:
-  bool colours_;
+  void begin();
+
+  Terminal terminal_;
+  bool json_;
+  bool paged_;
+  bool begun_ = false;
+  std::unique_ptr<Pager> pager_;
 };
 
-char const* yesOrNo(bool value);
+/// Reports on stderr what went wrong.
+void printProblem(std::string const& problem);
 
-/// The text with escapes for control characters, so that no name can steer the terminal, and for
-/// bytes that are no UTF-8.
-std::string printable(std::string const& text);
+inline char const* yesOrNo(bool value) { return value ? "yes" : "no"; }
 
 } // namespace Qv

@@ -1,23 +1,31 @@
 #include "commands.h"
 
-#include "output.h"
-
 namespace Qv {
 
-void showPlugins(Request const& request) {
+namespace {
+
+ExitStatus showPlugins(Output& output, Session const& session) {
   Json plugins = Json::array();
-  for (auto const& [file, failure, cached] : request.plugins) {
+  for (auto const& [file, failure, cached] : session.getPlugins()) {
     Json json = {{"file", file.string()}, {"read", failure.empty()}, {"cached", cached}};
     json["failure"] = failure.empty() ? Json(nullptr) : Json(failure);
     plugins.push_back(json);
   }
-  if (request.json)
-    return printJson(plugins);
+  output.printList(plugins, {"State", "Cached", "File", "Reason"},
+                   [](Json const& plugin) -> Output::Row {
+                     return {plugin["read"] ? "read" : "failed", yesOrNo(plugin["cached"]),
+                             plugin["file"], plugin["read"] ? "" : plugin["failure"]};
+                   });
+  return Success;
+}
 
-  std::vector<std::vector<std::string>> rows;
-  for (auto const& [file, failure, cached] : request.plugins)
-    rows.push_back({failure.empty() ? "read" : "failed", yesOrNo(cached), file, failure});
-  Terminal().printTable({"State", "Cached", "File", "Reason"}, rows);
+} // namespace
+
+void addPluginsCommand(Program& program) {
+  CLI::App& command = program.addCommand(
+      "plugins", "Show the plug-in files and why some are left out", &showPlugins);
+  command.add_flag("--retry", program.getSessionOptions().scan.retry,
+                   "Try again those that failed before");
 }
 
 } // namespace Qv

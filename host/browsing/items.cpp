@@ -1,34 +1,49 @@
-#include "browser.h"
+#include "items.h"
 
+#include "assertions.h"
 #include "hostBrRegistry.h"
-#include "hostError.h"
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <stdexcept>
 
 namespace Qv {
+
+namespace {
+
+constexpr BrBrowsable::ChildSearchType AnyChildren{0};
+constexpr BrBrowsable::ChildSearchType ContainerChildren{1};
+constexpr BrBrowsable::ChildSearchOption NoOption{0};
+
+} // namespace
 
 RCShdPtr<BrBrowsable> findItem(std::string const& scheme, std::string const& path) {
   BrServer& server = HostBrRegistry::getInstance().getServer(scheme);
   LiString message;
   try {
     return server.getNode(path, message)->getBrowsable();
-  } catch (ExBase const& refusal) {
-    throw HostError(
-        fmt::format("the scheme \"{}\" refuses the path \"{}\": {}", scheme, path, refusal.what()));
+  } catch (ExProgramAborted const&) {
+    // It names a line of the module, which means nothing to a user.
+    throw std::invalid_argument(
+        fmt::format("the scheme \"{}\" has no item with the path \"{}\"", scheme, path));
   }
 }
 
-void forEachChild(BrBrowsable& item, BrBrowsable::FindFilter filter,
-                  std::function<void(RCShdPtr<BrBrowsable> const&)> const& visit) {
+Items getChildren(BrBrowsable& item, BrBrowsable::FindFilter filter) {
+  Items children;
   RCShdPtr<BrChildrenQuery> const query = item.getChildren(filter);
   for (;;) {
     Iterator<RCShdPtr<BrBrowsable>> sequence = query->getNextChildSequence();
     if (sequence.atEnd())
-      return;
+      return children;
     for (; !sequence.atEnd(); sequence.next())
-      visit(sequence.item());
+      children.push_back(sequence.item());
   }
+}
+
+bool hasChildren(BrBrowsable const& item) { return item.hasChildren(AnyChildren, NoOption); }
+
+bool hasContainerChildren(BrBrowsable const& item) {
+  return item.hasChildren(ContainerChildren, NoOption);
 }
 
 std::string getAttribute(BrBrowsable& item, unsigned int attributeId) {
@@ -37,8 +52,8 @@ std::string getAttribute(BrBrowsable& item, unsigned int attributeId) {
   return value;
 }
 
-std::vector<Attribute> const& getAttributes() {
-  static std::vector<Attribute> const attributes = {
+std::vector<Attribute> getAttributes() {
+  return {
       {"NAME", BrBrowsable::NAME},
       {"BROWSABLE_TYPE", BrBrowsable::BROWSABLE_TYPE},
       {"ROOT_NAME", BrBrowsable::ROOT_NAME},
@@ -47,15 +62,6 @@ std::vector<Attribute> const& getAttributes() {
       {"CREATION_TIME", BrBrowsable::CREATION_TIME},
       {"BROWSABLE_ROLE", BrBrowsable::BROWSABLE_ROLE},
   };
-  return attributes;
-}
-
-std::string getAttributeName(unsigned int attributeId) {
-  auto const& attributes = getAttributes();
-  auto const found =
-      std::find_if(attributes.begin(), attributes.end(),
-                   [&](Attribute const& attribute) { return attribute.id == attributeId; });
-  return found == attributes.end() ? std::to_string(attributeId) : found->name;
 }
 
 } // namespace Qv

@@ -1,0 +1,60 @@
+#include "commands.h"
+
+#include "hostBuildInfoRegistry.h"
+#include "hostPackageManager.h"
+#include "typeName.h"
+
+namespace Qv {
+
+namespace {
+
+ExitStatus showPackages(Output& output, Session const& /*session*/) {
+  HostPackageManager const& manager = HostPackageManager::getInstance();
+  Json packages = Json::array();
+  for (InPackageInit const* const package : manager.getPackages()) {
+    Json dependencies = Json::array();
+    for (std::type_info const* const needed : package->getDependencies()) {
+      InPackageInit const* const dependency = manager.find(*needed);
+      dependencies.push_back(dependency ? dependency->getName() : typeName(*needed));
+    }
+    packages.push_back({{"package", package->getName()}, {"dependencies", dependencies}});
+  }
+  Json infos = Json::array();
+  for (OPtr<InBuildInfo> const& info : HostBuildInfoRegistry::getInstance().getInfos())
+    infos.push_back({{"product", info->getProductName()},
+                     {"library", info->getLibraryName()},
+                     {"release", info->getReleaseName()},
+                     {"version", info->getVersionString()},
+                     {"stage", info->getStageName()},
+                     {"major", info->getMajorVersion()},
+                     {"minor", info->getMinorVersion()},
+                     {"stageCode", info->getStageCode()},
+                     {"buildNumber", info->getBuildNumber()},
+                     {"buildDate", info->getBuildDate()},
+                     {"buildFlavor", info->getBuildFlavor()}});
+  if (output.isJson()) {
+    output.printJson({{"packages", packages}, {"buildInfos", infos}});
+    return Success;
+  }
+
+  output.printList(packages, {"Package", "Depends on"}, [](Json const& package) -> Output::Row {
+    std::vector<std::string> const dependencies = package["dependencies"];
+    return {package["package"], fmt::format("{}", fmt::join(dependencies, ", "))};
+  });
+  for (Json const& info : infos) {
+    output.print("\n");
+    std::vector<Output::Row> rows;
+    for (auto const& [name, value] : info.items())
+      rows.push_back({name, value.is_string() ? value.get<std::string>() : value.dump()});
+    output.printTable({"Build information", ""}, std::move(rows));
+  }
+  return Success;
+}
+
+} // namespace
+
+void addPackagesCommand(Program& program) {
+  program.addCommand("packages", "Show the packages and their build information", &showPackages);
+}
+
+} // namespace Qv

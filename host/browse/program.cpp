@@ -1,0 +1,75 @@
+#include "program.h"
+
+#include "progress.h"
+
+#include <sstream>
+
+namespace Qv {
+
+Program::Program()
+    : app_("Browses the schemes that a module adds to the asset browser.", "qvbrowse") {
+  sessionOptions_.scan.progress = &sayProgress;
+  app_.set_version_flag("--version", "qvbrowse " QV_VERSION, "Print the version and exit");
+  app_.fallthrough();
+  app_.require_subcommand(0, 1);
+  app_.add_option("--module", sessionOptions_.module, "The module file to load")->type_name("FILE");
+  app_.add_option("--tools", sessionOptions_.sources,
+                  "A source of tools: frei0r, frei0r:DIR or a JSON catalogue; repeatable")
+      ->type_name("SOURCE")
+      ->allow_extra_args(false);
+  app_.add_flag("--no-pager", noPager_, "Do not page the output");
+  app_.add_flag("--json", json_, "Print JSON");
+}
+
+CLI::App& Program::addCommand(char const* name, char const* help, Command const& command) {
+  CLI::App& subcommand = *app_.add_subcommand(name, help);
+  subcommand.add_flag("--json", json_, "Print JSON");
+  subcommand.callback([this, command] { command_ = command; });
+  return subcommand;
+}
+
+ExitStatus Program::run(int argc, char const* const* argv) {
+  app_.footer("Without a command, prints the trees of all schemes. The options above may also "
+              "follow a command.\n"
+              "Exit status:\n"
+              "  0  success\n"
+              "  1  failure, or nothing found\n"
+              "  2  wrong usage\n"
+              "  3  success, but some plug-ins could not be read");
+  try {
+    app_.parse(argc, argv);
+  } catch (CLI::ParseError const& error) {
+    if (error.get_exit_code() != Success) {
+      printProblem(fmt::format("{}; see --help", error.what()));
+      return Usage;
+    }
+    std::ostringstream help;
+    app_.exit(error, help);
+    Output output(Terminal::ofStandardOutput(), false, false);
+    output.write(help.str());
+    output.finish();
+    return Success;
+  }
+  return runCommand();
+}
+
+ExitStatus Program::runCommand() {
+  Progress const progress;
+  Session const session(sessionOptions_);
+  bool partial = false;
+  for (auto const& [file, failure, cached] : session.getPlugins()) {
+    if (failure.empty())
+      continue;
+    partial = true;
+    printProblem(fmt::format("the plug-in \"{}\" is left out: {}{}", file.string(), failure,
+                             cached ? "; \"plugins --retry\" tries it again" : ""));
+  }
+
+  sayProgress("listing");
+  Output output(Terminal::ofStandardOutput(), json_, !noPager_);
+  ExitStatus const status = command_(output, session);
+  output.finish();
+  return status == Success && partial ? Partial : status;
+}
+
+} // namespace Qv

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "hostJournal.h"
+#include "hostModule.h"
+#include "pluginScan.h"
+
+#include <optional>
+
+namespace Qv {
+
+/// The host in operation: registries filled from tool sources, and the module. At its end the
+/// registries are empty, so that another session may follow. One at a time.
+class Session {
+public:
+  struct Options {
+    /// As readToolSources() takes them. Without any, the frei0r plug-ins of this machine are read
+    /// or, where there are none, the sample catalogue.
+    std::vector<std::string> sources = {};
+    /// The module file; by default the one that belongs to the program.
+    std::optional<std::filesystem::path> module = {};
+    ScanOptions scan = {};
+  };
+
+  /// @throws HostError when a source or the module cannot be read. Whatever the module throws
+  /// passes.
+  explicit Session(Options const& options);
+
+  /// The plug-in files of all sources.
+  std::vector<ToolSource::Plugin> const& getPlugins() const { return plugins_; }
+  /// What the module did to the host while it started.
+  std::vector<HostJournal::Entry> const& getStartup() const { return startup_; }
+
+private:
+  /// Empties the registries that the sources fill, after the module has gone.
+  struct Registries {
+    ~Registries();
+  };
+
+  Registries registries_;
+  std::optional<HostModule> module_;
+  std::vector<ToolSource::Plugin> plugins_;
+  std::vector<HostJournal::Entry> startup_;
+};
+
+} // namespace Qv
