@@ -39,6 +39,7 @@ fs::path standardModule() {
 struct CommandLine {
   fs::path module = standardModule();
   std::vector<std::string> tools;
+  bool requireIsolation = false;
   Request request;
   void (*command)(Request const&) = &showTrees;
   /// Whether the command goes on with further paths.
@@ -81,6 +82,8 @@ void declare(CLI::App& app, CommandLine& line) {
                  "Where the tools come from, repeatable: frei0r, frei0r:DIR or a JSON catalogue")
       ->type_name("SOURCE")
       ->allow_extra_args(false);
+  app.add_flag("--require-isolation", line.requireIsolation,
+               "Read no plug-in unless it can be isolated completely");
   app.add_flag_callback(
       "--no-pager", [&line] { line.paged = false; }, "Never show the output through $PAGER");
   app.require_subcommand(0, 1);
@@ -182,7 +185,9 @@ ToolSource ownViews() {
 /// Reads all sources before the first one is registered.
 void registerTools(CommandLine& line) {
   std::vector<ToolSource> sources =
-      readToolSources(line.tools, {.retry = line.request.retry, .progress = &sayProgress});
+      readToolSources(line.tools, {.retry = line.request.retry,
+                                   .requireIsolation = line.requireIsolation,
+                                   .progress = &setProgress});
   bool const viewsGiven = std::any_of(sources.begin(), sources.end(), [](ToolSource const& source) {
     return !source.views.empty();
   });
@@ -222,7 +227,7 @@ int run(CommandLine& line) {
   HostModule const module(line.module);
   HostJournal::getInstance().stop();
 
-  sayProgress("listing");
+  setProgress("listing");
   std::optional<Paging> paging;
   if (line.paged && !line.request.json)
     paging.emplace();

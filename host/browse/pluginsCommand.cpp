@@ -1,10 +1,14 @@
 #include "commands.h"
 
+#include "isolationGaps.h"
 #include "output.h"
 
 namespace Qv {
 
 void showPlugins(Request const& request) {
+  if (std::vector<std::string> const gaps = findIsolationGaps(); !gaps.empty())
+    printProblem(fmt::format("plug-ins cannot be isolated completely on this machine: {}",
+                             fmt::join(gaps, ", ")));
   Json plugins = Json::array();
   for (auto const& [file, failure, cached] : request.plugins) {
     Json json = {{"file", file.string()}, {"read", failure.empty()}, {"cached", cached}};
