@@ -81,7 +81,7 @@ Frei0rPlugin::Frei0rPlugin(char const* file)
 template <class Function> Function* Frei0rPlugin::entry(char const* name) const {
   if (void* const address = dlsym(library_, name))
     return reinterpret_cast<Function*>(address);
-  throw PluginError(std::string("it has no function ") + name);
+  throw PluginError(std::string("no function ") + name);
 }
 
 ScanResult Frei0rPlugin::read() const {
@@ -89,11 +89,11 @@ ScanResult Frei0rPlugin::read() const {
   getPluginInfo_(&info);
   char const* const category = nameOf(info.plugin_type, PluginTypes);
   if (!info.name)
-    throw PluginError("it gives no name");
+    throw PluginError("no name");
   if (!category)
-    throw PluginError("its type " + std::to_string(info.plugin_type) + " is unknown");
+    throw PluginError("unknown type " + std::to_string(info.plugin_type));
   if (info.num_params < 0 || info.num_params > MostParameters)
-    throw PluginError("it claims to have " + std::to_string(info.num_params) +
+    throw PluginError("claims to have " + std::to_string(info.num_params) +
                              " parameters");
 
   ScanResult result;

@@ -8,7 +8,6 @@
 #include <cstring>
 #include <fcntl.h>
 #include <sstream>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
@@ -136,9 +135,9 @@ std::string PluginProcess::describeFailure(int status) const {
   if (reply_.size() > LongestReply)
     text << "replied with more than " << LongestReply << " bytes";
   else if (!ended_)
-    text << "no reply within " << double(limits_.time.count()) / 1000 << " seconds";
-  else if (WIFSIGNALED(status) && usedUp_)
-    text << "used more than " << limits_.processorTime.count() << " seconds of processor time";
+    text << "no reply within " << double(limits_.time.count()) / 1000 << " s";
+  else if (WIFSIGNALED(status) && WTERMSIG(status) == SIGXCPU)
+    text << "used more than " << limits_.processorTime.count() << " s of processor time";
   else if (WIFSIGNALED(status) && WTERMSIG(status) == SIGSYS)
     text << "made a forbidden system call";
   else if (WIFSIGNALED(status))
@@ -156,12 +155,8 @@ int PluginProcess::finish() {
   if (process_ <= 0)
     return status;
   kill(process_, SIGKILL);
-  rusage usage = {};
-  wait4(process_, &status, 0, &usage);
+  waitpid(process_, &status, 0);
   process_ = -1;
-  usedUp_ = usage.ru_utime.tv_sec + usage.ru_stime.tv_sec +
-                (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1'000'000 >=
-            limits_.processorTime.count();
   return status;
 }
 

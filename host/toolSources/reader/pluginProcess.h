@@ -61,8 +61,6 @@ private:
   /// Can be read when the process has ended.
   Descriptor end_;
   bool ended_ = false;
-  /// Whether it used all the processor time that it may.
-  bool usedUp_ = false;
   std::string reply_;
   std::optional<ScanResult> result_;
 };
