@@ -180,7 +180,7 @@ class Figures:
         return f"{one / other:.2f}"
 
     def relocations(self, file):
-        lines = run("readelf", "--relocs", "--wide", BUILD / "lib" / file).stdout.splitlines()
+        lines = run("readelf", "--relocs", "--wide", BUILD / "lib/qvbrowse" / file).stdout.splitlines()
         return str(sum(bool(re.match(r"[0-9a-f]{16} ", line)) for line in lines))
 
     def machine(self):

@@ -8,7 +8,7 @@ namespace Qv {
 
 Program::Program()
     : app_("Browses the schemes that a module adds to the asset browser.", "qvbrowse") {
-  sessionOptions_.scan.progress = &sayProgress;
+  sessionOptions_.scan.progress = &setProgress;
   app_.set_version_flag("--version", "qvbrowse " QV_VERSION, "Print the version and exit");
   app_.fallthrough();
   app_.require_subcommand(0, 1);
@@ -17,6 +17,8 @@ Program::Program()
                   "A source of tools: frei0r, frei0r:DIR or a JSON catalogue; repeatable")
       ->type_name("SOURCE")
       ->allow_extra_args(false);
+  app_.add_flag("--require-isolation", sessionOptions_.scan.requireIsolation,
+                "Read no plug-in unless it can be isolated completely");
   app_.add_flag("--no-pager", noPager_, "Do not page the output");
   app_.add_flag("--json", json_, "Print JSON");
 }
@@ -65,7 +67,7 @@ ExitStatus Program::runCommand() {
                              cached ? "; \"plugins --retry\" tries it again" : ""));
   }
 
-  sayProgress("listing");
+  setProgress("listing");
   Output output(Terminal::ofStandardOutput(), json_, !noPager_);
   ExitStatus const status = command_(output, session);
   output.finish();

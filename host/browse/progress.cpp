@@ -1,84 +1,65 @@
 #include "progress.h"
 
-#include <cerrno>
-#include <csignal>
-#include <sys/time.h>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
 #include <unistd.h>
 
 namespace Qv {
 
 namespace {
 
-constexpr suseconds_t Delay = 500'000;
-constexpr suseconds_t Interval = 100'000;
+constexpr std::chrono::milliseconds Delay(500);
+constexpr std::chrono::milliseconds Interval(100);
 
-// The alarm's; touched by others only while it is blocked.
+/// Guards what follows but for the thread.
+std::mutex mutex;
 std::string line;
 bool shown = false;
+/// Writes the line, again and again, in case something else was written since.
+std::jthread writer;
 
-void writeLine(std::string const& text) {
+void write(std::string const& text) {
   // A line that cannot be written is not missed.
-  [[maybe_unused]] ssize_t const written = write(STDERR_FILENO, text.data(), text.size());
+  [[maybe_unused]] ssize_t const written = ::write(STDERR_FILENO, text.data(), text.size());
 }
 
-void onAlarm(int) {
-  int const before = errno;
-  writeLine(line);
-  shown = true;
-  errno = before;
-}
-
-/// While it lives, no alarm comes.
-class Quiet {
-public:
-  Quiet() {
-    sigset_t alarm;
-    sigemptyset(&alarm);
-    sigaddset(&alarm, SIGALRM);
-    sigprocmask(SIG_BLOCK, &alarm, &before_);
+void writeLines(std::stop_token const& stop) {
+  std::unique_lock lock(mutex);
+  std::condition_variable_any stopped;
+  for (auto pause = Delay;; pause = Interval) {
+    stopped.wait_for(lock, stop, pause, [] { return false; });
+    if (stop.stop_requested())
+      return;
+    write(line);
+    shown = true;
   }
-  Quiet(Quiet const&) = delete;
-  Quiet& operator=(Quiet const&) = delete;
-  ~Quiet() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
-
-private:
-  sigset_t before_{};
-};
-
-void setTimer(suseconds_t delay) {
-  itimerval const timer = {{0, Interval}, {0, delay}};
-  setitimer(ITIMER_REAL, &timer, nullptr);
 }
 
 } // namespace
 
 Progress::Progress() {
-  if (!isatty(STDERR_FILENO))
-    return;
-  // Only the wait for plug-ins sees that it was interrupted.
-  struct sigaction action = {};
-  action.sa_handler = onAlarm;
-  action.sa_flags = SA_RESTART;
-  sigaction(SIGALRM, &action, nullptr);
-  setTimer(Delay);
+  if (isatty(STDERR_FILENO))
+    writer = std::jthread(writeLines);
 }
 
 Progress::~Progress() { stopProgress(); }
 
-void sayProgress(std::string const& text) {
-  Quiet const quiet;
+void setProgress(std::string const& text) {
+  std::scoped_lock const lock(mutex);
   line = "\r" + text + " ...\x1b[K";
 }
 
 void eraseProgress() {
-  Quiet const quiet;
+  std::scoped_lock const lock(mutex);
   if (shown)
-    writeLine("\r\x1b[K");
+    write("\r\x1b[K");
   shown = false;
 }
 
 void stopProgress() {
-  setTimer(0);
+  writer = {};
   eraseProgress();
 }
 

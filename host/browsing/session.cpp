@@ -20,9 +20,7 @@ namespace {
 fs::path programDirectory() { return fs::read_symlink("/proc/self/exe").parent_path(); }
 
 fs::path standardModule() {
-  constexpr char const* Name = "libQVpluginBrowser.qvmodule";
-  fs::path const installed = programDirectory() / INSTALLED_LIBRARIES / Name;
-  return fs::exists(installed) ? installed : programDirectory() / BUILT_LIBRARIES / Name;
+  return programDirectory() / LIBRARY_DIRECTORY / "libQVpluginBrowser.qvmodule";
 }
 
 /// The views that are offered where no source names any.

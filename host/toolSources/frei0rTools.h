@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pluginCache.h"
+#include "toolSource.h"
 
 namespace Qv {
 
@@ -10,17 +11,12 @@ inline constexpr char const* frei0rDirectory = "/usr/lib/frei0r-1";
 /// Reads the frei0r plug-ins of a directory, its *.so files, in order of their names. A plug-in is
 /// a tool: it is named after its file, its category is its type, its texts are its own name, its
 /// explanation, and its author with its version, and its tooltip lists its parameters. What the
-/// cache holds is not read again; the rest is read as scanPlugins() does and goes into the cache,
-/// which is saved. A plug-in that cannot be read is left out of the tools.
+/// cache lacks is read as scanPlugins() does. A plug-in that cannot be read is left out of the tools.
 /// @throws HostError when there is no such directory or no *.so file in it.
 ToolSource readFrei0rTools(std::filesystem::path const& directory, PluginCache& cache,
                            ScanOptions const& options = {});
 
 /// Whether a directory can be read and holds a plug-in.
 bool hasFrei0rTools(std::filesystem::path const& directory);
-
-/// Loads one plug-in into this process, asks it for all but its name, and unloads it.
-/// @throws HostError with nothing but the reason when it is none or does not say what it must.
-ToolSource::Tool readFrei0rTool(std::filesystem::path const& file);
 
 } // namespace Qv

@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <fmt/format.h>
 #include <fstream>
-#include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,7 +17,15 @@ namespace {
 
 /// What the file starts with. The number goes up with every change of the file or of what is kept
 /// of a plug-in.
-constexpr char Format[] = "qvbrowse plug-ins 1";
+constexpr std::string_view Format = "qvbrowse plug-ins 2";
+
+/// What tells whether a plug-in file is still the same: its size and when it was modified. To be
+/// taken before the plug-in is read. A file that is missing has a stamp as well.
+std::string stampOf(fs::path const& plugin) {
+  struct stat facts = {};
+  stat(plugin.c_str(), &facts);
+  return fmt::format("{} {}.{:09}", facts.st_size, facts.st_mtim.tv_sec, facts.st_mtim.tv_nsec);
+}
 
 } // namespace
 
@@ -36,39 +43,49 @@ PluginCache::PluginCache(fs::path file) : file_(std::move(file)) {
   try {
     load();
   } catch (HostError const&) {
-    entries_.clear();
+    // None, then.
   }
 }
 
 void PluginCache::load() {
-  std::istringstream stream(readFile(file_));
-  if (readText(stream) != Format)
+  std::string const text = readFile(file_);
+  std::string_view rest = text;
+  if (takeText(rest) != Format)
     return;
-  while (stream.peek() != std::istringstream::traits_type::eof()) {
-    std::string const plugin = readText(stream);
-    Entry& entry = entries_[plugin];
-    entry.stamp = readText(stream);
-    entry.reading = PluginReading::read(stream);
-    entry.earlier = true;
+  while (!rest.empty()) {
+    std::optional<std::string_view> const plugin = takeText(rest);
+    std::optional<std::string_view> const stamp = takeText(rest);
+    std::optional<ScanResult> result = ScanResult::takeFrom(rest);
+    if (!result)
+      return kept_.clear();
+    kept_[std::string(*plugin)] = {std::string(*stamp), std::move(*result), true};
   }
 }
 
-std::string PluginCache::getStamp(fs::path const& plugin) {
-  // A file that is missing has a stamp as well.
-  struct stat facts = {};
-  stat(plugin.c_str(), &facts);
-  return fmt::format("{} {}.{:09}", facts.st_size, facts.st_mtim.tv_sec, facts.st_mtim.tv_nsec);
-}
-
-PluginCache::Entry const* PluginCache::find(fs::path const& plugin,
-                                            std::string const& stamp) const {
-  auto const found = entries_.find(plugin);
-  return found == entries_.end() || found->second.stamp != stamp ? nullptr : &found->second;
-}
-
-void PluginCache::keep(fs::path const& plugin, std::string const& stamp,
-                       PluginReading const& reading) {
-  entries_[plugin] = {stamp, reading, false};
+std::vector<PluginCache::Entry> PluginCache::read(std::vector<fs::path> const& plugins, bool retry,
+                                                  Scan const& scan) {
+  std::vector<fs::path> unread;
+  std::map<std::string, std::string> stamps;
+  for (fs::path const& plugin : plugins) {
+    std::string stamp = stampOf(plugin);
+    auto const found = kept_.find(plugin);
+    bool const known = found != kept_.end() && found->second.stamp == stamp;
+    if (known && !(retry && found->second.cached && !found->second.result.failure.empty()))
+      continue;
+    unread.push_back(plugin);
+    stamps[plugin] = std::move(stamp);
+  }
+  if (!unread.empty()) {
+    for (auto& [plugin, result] : scan(unread))
+      kept_[plugin] = {std::move(stamps[plugin]), std::move(result), false};
+    save();
+  }
+  std::vector<Entry> entries;
+  for (fs::path const& plugin : plugins) {
+    Kept const& kept = kept_.at(plugin);
+    entries.push_back({plugin, kept.result, kept.cached});
+  }
+  return entries;
 }
 
 void PluginCache::save() const {
@@ -81,14 +98,17 @@ void PluginCache::save() const {
   if (descriptor < 0)
     return;
   close(descriptor);
-  std::ofstream stream(temporary, std::ios::binary);
-  stream << Format << '\0';
-  for (auto const& [plugin, entry] : entries_) {
+  std::string text;
+  appendText(text, Format);
+  for (auto const& [plugin, kept] : kept_) {
     if (!fs::exists(plugin, error))
       continue;
-    stream << plugin << '\0' << entry.stamp << '\0';
-    entry.reading.write(stream);
+    appendText(text, plugin);
+    appendText(text, kept.stamp);
+    kept.result.appendTo(text);
   }
+  std::ofstream stream(temporary, std::ios::binary);
+  stream << text;
   stream.close();
   if (stream)
     fs::rename(temporary, file_, error);

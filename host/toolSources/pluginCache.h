@@ -2,11 +2,9 @@
 
 #include "pluginScan.h"
 
-#include <map>
-
 namespace Qv {
 
-/// What earlier runs read of plug-in files, kept in one file.
+/// What was read of plug-in files, in this run and in earlier ones, which leave it in a file.
 class PluginCache {
 public:
   /// The user's own file; empty when the environment does not tell where.
@@ -16,31 +14,38 @@ public:
   /// as empty. An empty path is no file: nothing is kept beyond this object.
   explicit PluginCache(std::filesystem::path file);
 
-  /// What tells whether a plug-in file is still the same: its size and when it was modified. To be
-  /// taken before the plug-in is read.
-  static std::string getStamp(std::filesystem::path const& plugin);
-  /// What is kept of a plug-in file.
+  /// What is known of a plug-in file.
   struct Entry {
-    std::string stamp;
-    PluginReading reading;
-    /// Whether an earlier run found out.
-    bool earlier;
+    /// An absolute path.
+    std::filesystem::path plugin;
+    ScanResult result;
+    /// Whether the result comes from an earlier run.
+    bool cached;
   };
-  /// What is kept of a plug-in file, given by its absolute path, that had this stamp; null when
-  /// there is nothing. Valid until the plug-in is kept again.
-  Entry const* find(std::filesystem::path const& plugin, std::string const& stamp) const;
-  void keep(std::filesystem::path const& plugin, std::string const& stamp,
-            PluginReading const& reading);
-  /// Writes the file, whole or not at all, without the plug-ins that are gone. Where that cannot be
-  /// done, the next run reads the plug-ins again.
-  void save() const;
+  /// Reads plug-in files that are not known or have changed.
+  using Scan = std::function<ScanResults(std::vector<std::filesystem::path> const& plugins)>;
+
+  /// Reads plug-in files, given by their absolute paths. Those that are new go through `scan`, and
+  /// then into the file, which is written whole or not at all, without the plug-ins that are gone.
+  /// @param retry has those go through `scan` as well that failed in an earlier run.
+  /// @returns one entry for each, in their order.
+  std::vector<Entry> read(std::vector<std::filesystem::path> const& plugins, bool retry,
+                          Scan const& scan);
 
 private:
+  /// What is kept of a plug-in file that had this stamp.
+  struct Kept {
+    std::string stamp;
+    ScanResult result;
+    bool cached;
+  };
+
   void load();
+  void save() const;
 
   std::filesystem::path file_;
   /// By absolute path.
-  std::map<std::string, Entry> entries_;
+  std::map<std::string, Kept> kept_;
 };
 
 } // namespace Qv

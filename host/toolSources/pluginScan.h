@@ -1,50 +1,41 @@
 #pragma once
 
-#include "toolSource.h"
+#include "scanResult.h"
 
 #include <chrono>
 #include <filesystem>
 #include <functional>
-#include <iosfwd>
+#include <map>
+#include <vector>
 
 namespace Qv {
-
-/// What reading one plug-in file came to.
-struct PluginReading {
-  /// The tool, but for its name, which is the stem of the file.
-  ToolSource::Tool tool;
-  /// Why there is no tool; empty when there is one.
-  std::string failure;
-
-  /// Writes it as texts that each end in a zero byte, whatever other bytes they hold.
-  void write(std::ostream& stream) const;
-  /// @throws HostError when the stream holds anything else.
-  static PluginReading read(std::istream& stream);
-};
-
-/// Reads a text that ends in a zero byte. @throws HostError when there is none.
-std::string readText(std::istream& stream);
 
 /// How plug-in files are read.
 struct ScanOptions {
   /// Whether a plug-in that failed before is tried again.
   bool retry = false;
-  /// How long one plug-in may take to answer.
-  std::chrono::milliseconds limit{5000};
+  /// Whether none is read where plug-ins cannot be closed in; see findIsolationGaps().
+  bool requireIsolation = false;
+  /// How much of a processor's time one plug-in may use.
+  std::chrono::seconds processorTime{5};
+  /// How long it may take, busy as the machine may be.
+  std::chrono::milliseconds time{30'000};
+  /// The program qvreader; empty for the one installed with this program.
+  std::filesystem::path reader = {};
   /// Told what is being waited for, in a text much shorter than a line.
   std::function<void(std::string const&)> progress = [](std::string const&) {};
 };
 
-/// Calls `readTool` for each plug-in file in a child process of its own, as many at a time as there
-/// are processors. Whatever a plug-in does there, it reaches neither the input and the output of
-/// this program nor the other plug-ins: one that crashes, exits, does not answer in time or answers
-/// with anything but a reading has a failure that says so, and so has one for which `readTool`
-/// throws a HostError. To be called while this program has one thread.
-/// @returns one reading for each file, in their order.
-/// @throws HostError when no process can be started.
-std::vector<PluginReading>
-scanPlugins(std::vector<std::filesystem::path> const& files,
-            ToolSource::Tool (*readTool)(std::filesystem::path const& file),
-            ScanOptions const& options);
+/// What came of plug-in files, by their absolute paths.
+using ScanResults = std::map<std::string, ScanResult>;
+
+/// Has qvreader read plug-in files, each in a process that is closed in: whatever a plug-in does
+/// there, it reaches neither this program nor the other plug-ins nor the user's files. One that
+/// crashes, exits, does not reply in time or does what it must not has a failure that says so. May
+/// be called on any thread.
+/// @param files are absolute paths.
+/// @throws HostError when they cannot be read, or must not as there are gaps.
+ScanResults scanPlugins(std::vector<std::filesystem::path> const& files,
+                        ScanOptions const& options);
 
 } // namespace Qv

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pluginScan.h"
+#include "toolSource.h"
 
 namespace Qv {
 

@@ -1,11 +1,9 @@
+#include "refusedCalls.h"
 #include "temporaryDirectory.h"
 
 #include <gmock/gmock.h>
 
-#include <fcntl.h>
 #include <nlohmann/json.hpp>
-#include <poll.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -112,9 +110,10 @@ protected:
     run.err = read("problems");
     return run;
   }
-  void install(char const* plugin, char const* name) const {
+  /// Adds a plug-in that acts by its name.
+  void install(std::string const& name) const {
     std::filesystem::create_directories(directory_ / "plugins");
-    std::filesystem::copy_file(plugin, directory_ / "plugins" / name);
+    std::filesystem::copy_file(ACTORPLUGIN_FILE, directory_ / "plugins" / (name + ".so"));
   }
 };
 
@@ -218,7 +217,7 @@ TEST_F(QvBrowse, reportsAFailureInOneSentence) {
 }
 
 TEST_F(QvBrowse, combinesSources) {
-  install(CLOUDSPLUGIN_FILE, "clouds.so");
+  install("clouds");
   write("more.json", R"({"tools": [{"name": "axe", "category": "Wood"},
                                    {"name": "größe", "category": "Wood", "tooltip": "Late"},
                                    {"name": "saw", "category": "Wood", "tooltip": "Another"}]})");
@@ -249,53 +248,56 @@ TEST_F(QvBrowse, offersViewsOfItsOwnWhereNoSourceHasAny) {
 }
 
 TEST_F(QvBrowse, keepsPluginsAwayFromAllThatIsOpen) {
-  install(FORKPLUGIN_FILE, "fork.so");
-  install(GARBLEPLUGIN_FILE, "garble.so");
-  install(PRINTPLUGIN_FILE, "print.so");
-  std::string const life = directory_ / "life";
-  mkfifo(life.c_str(), 0600);
-  pollfd lives = {open(life.c_str(), O_RDONLY | O_NONBLOCK), POLLIN, 0};
-  setenv("QV_LIFE", life.c_str(), 1);
+  install("garble");
+  install("print");
   ProgramRun const shown =
       runOnTerminal("-u NO_COLOR", "--tools frei0r:plugins plugins 3>other 9>&3");
-  unsetenv("QV_LIFE");
   EXPECT_EQ(shown.status, 3);
   EXPECT_THAT(shown.out, Not(HasSubstr("whim")));
   EXPECT_EQ(read("other"), "");
-  // What a plug-in started ends with it.
-  poll(&lives, 1, 10000);
-  EXPECT_EQ(lives.revents, POLLHUP);
-  close(lives.fd);
+}
+
+TEST_F(QvBrowse, tellsWherePluginsCannotBeIsolated) {
+  install("clouds");
+  std::string const source = "--tools frei0r:plugins ";
+  EXPECT_THAT(result(run(source + "--require-isolation ls tools")), HasSubstr("Source"));
+  std::filesystem::remove_all(directory_ / "cache");
+  runWithoutCalls({SCMP_SYS(landlock_create_ruleset)}, [&] {
+    expectFailure(run(source + "--require-isolation ls tools"), {"isolated", "Landlock"});
+    ProgramRun const plugins = run(source + "plugins");
+    EXPECT_EQ(plugins.status, 0);
+    EXPECT_THAT(plugins.err, MatchesRegex("qvbrowse: [^\n]+Landlock[^\n]+\n"));
+    EXPECT_EQ(run(source + "ls tools").err, "");
+  });
 }
 
 TEST_F(QvBrowse, leavesOutPluginsThatCannotBeRead) {
-  install(RENAMEPLUGIN_FILE, "\xe9.so");
-  install(RECOVERPLUGIN_FILE, "recover.so");
+  install("\xe9");
+  install("print");
+  install("abort");
   write("plugins/text\n.so", "no plug-in");
-  unsetenv("QV_MENDED");
   std::string const source = "--tools frei0r:plugins ";
   for (std::string const hint : {"", "; \"plugins --retry\" tries it again"}) {
-    ProgramRun const shown = run(source + "ls tools Filter");
+    ProgramRun const shown = run(source + "ls tools Source");
     EXPECT_EQ(shown.status, 3);
-    EXPECT_EQ(shown.out, "Type  Tool\nTool  \\xe9\n");
-    std::string const reason = "\" is left out: [^;\n]+" + hint + "\n";
-    EXPECT_THAT(shown.err,
-                MatchesRegex("qvbrowse: the plug-in \"[^\n]+/plugins/recover.so" + reason +
-                             "qvbrowse: the plug-in \"[^\n]+/plugins/text\\\\n.so" + reason));
+    EXPECT_EQ(shown.out, "Type  Tool\nTool  print\nTool  \\xe9\n");
+    std::string const plugins = "qvbrowse: the plug-in \"" + directory_.string() + "/plugins/";
+    EXPECT_EQ(shown.err, plugins + "abort.so\" is left out: crashed with SIGABRT (Aborted)" +
+                             hint + "\n" + plugins + "text\\n.so\" is left out: file too short" +
+                             hint + "\n");
   }
-  EXPECT_EQ(json::parse(run(source + "detail tools Filter/\xe9 --json").out)
+  EXPECT_EQ(json::parse(run(source + "detail tools Source/\xe9 --json").out)
                 .at("/0/pages/0/fields/0/value"_json_pointer),
             "caf\ufffd");
 
-  setenv("QV_MENDED", "yes", 1);
   EXPECT_THAT(run(source + "plugins").out, HasSubstr("failed  yes"));
   ProgramRun const retried = run(source + "plugins --retry --json");
   EXPECT_EQ(retried.status, 3);
   json const plugins = json::parse(retried.out);
-  EXPECT_EQ(all<bool>(plugins, "cached"), (std::vector{false, false, true}));
-  EXPECT_EQ(all<bool>(plugins, "read"), (std::vector{true, false, true}));
-  EXPECT_EQ(plugins[0]["failure"], nullptr);
-  EXPECT_TRUE(plugins[1]["failure"].is_string());
+  EXPECT_EQ(all<bool>(plugins, "cached"), (std::vector{false, true, false, true}));
+  EXPECT_EQ(all<bool>(plugins, "read"), (std::vector{false, true, false, true}));
+  EXPECT_EQ(plugins[1]["failure"], nullptr);
+  EXPECT_EQ(plugins[2]["failure"], "file too short");
   // Without a cache directory it is a first run each time.
   setenv("XDG_CACHE_HOME", "/dev/null", 1);
   EXPECT_THAT(run(source + "ls tools").err, Not(HasSubstr("--retry")));
@@ -572,16 +574,16 @@ TEST_F(QvBrowse, pagesTheOutputOnATerminal) {
 }
 
 TEST_F(QvBrowse, showsProgressOnATerminalOnly) {
-  install(SLEEPPLUGIN_FILE, "sleep.so");
-  std::string const arguments = "--tools frei0r:plugins ls tools Filter";
+  install("doze");
+  std::string const arguments = "--tools frei0r:plugins ls tools Source";
   std::string const shown = result(runOnTerminal("-u NO_COLOR", arguments));
   EXPECT_THAT(shown, HasSubstr("\rreading plug-ins, 0 of 1 ...\x1b[K"));
   EXPECT_THAT(shown, testing::EndsWith(
-                         "\r\x1b[K\x1b[1mType\x1b[0m  \x1b[1mTool\x1b[0m\r\nTool  sleep\r\n"));
+                         "\r\x1b[K\x1b[1mType\x1b[0m  \x1b[1mTool\x1b[0m\r\nTool  doze\r\n"));
   EXPECT_EQ(result(runOnTerminal("-u NO_COLOR", arguments)).find("reading plug-ins"),
             std::string::npos);
   std::filesystem::remove_all(directory_ / "cache");
-  EXPECT_EQ(result(run(arguments)), "Type  Tool\nTool  sleep\n");
+  EXPECT_EQ(result(run(arguments)), "Type  Tool\nTool  doze\n");
 }
 
 } // namespace

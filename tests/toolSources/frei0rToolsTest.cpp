@@ -1,12 +1,18 @@
 #include "frei0rTools.h"
+#include "isolationGaps.h"
 #include "refusal.h"
+#include "refusedCalls.h"
 #include "temporaryDirectory.h"
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <array>
-#include <dlfcn.h>
+#include <arpa/inet.h>
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
 
 namespace Qv {
 
@@ -15,62 +21,65 @@ namespace {
 namespace fs = std::filesystem;
 
 using testing::AllOf;
+using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 
+/// Plug-ins that act by their names, in a directory beside a home that is not for them.
 class Frei0rTools : public testing::Test, protected TemporaryDirectory {
 protected:
-  fs::path install(fs::path const& plugin, char const* name) const {
-    fs::copy_file(plugin, directory_ / name);
-    return directory_ / name;
+  Frei0rTools() {
+    fs::create_directory(plugins_);
+    fs::create_directory(directory_ / "home");
+    write("home/secret", "");
+    mkfifo(life_.c_str(), 0600);
+  }
+
+  void install(std::string const& name) const {
+    fs::copy_file(ACTORPLUGIN_FILE, plugins_ / (name + ".so"));
   }
   /// Reads the directory as a run of its own.
   ToolSource read(ScanOptions const& options = {}) const {
-    PluginCache cache(cache_);
-    return readFrei0rTools(directory_, cache, options);
+    PluginCache cache(directory_ / "cache");
+    return readFrei0rTools(plugins_, cache, options);
   }
 
-  fs::path const cache_ = directory_ / "cache" / "plugins";
+  fs::path const plugins_ = directory_ / "plugins";
+  /// A pipe that plug-ins hold.
+  fs::path const life_ = plugins_ / "life";
 };
 
 TEST_F(Frei0rTools, AreListedByFileAndByType) {
-  install(MUTEPLUGIN_FILE, "a.so");
-  install(CLOUDSPLUGIN_FILE, "c.so");
-  install(CLOUDSPLUGIN_FILE, "b.x.so");
-  write("readme.txt", "no plug-in");
+  install("mute");
+  install("c");
+  install("b.x");
+  write("plugins/readme.txt", "no plug-in");
 
   ToolSource const source = read();
   std::vector<std::string> names;
   for (ToolSource::Tool const& tool : source.tools)
     names.push_back(tool.facts.name + " in " + tool.facts.category);
-  EXPECT_THAT(names, ElementsAre("a in Mixer2", "b.x in Source", "c in Source"));
+  EXPECT_THAT(names, ElementsAre("b.x in Source", "c in Source", "mute in Mixer2"));
   EXPECT_THAT(source.categories, ElementsAre("Source", "Mixer2"));
 }
 
 TEST_F(Frei0rTools, SayWhatThePluginSays) {
-  fs::path const file = install(CLOUDSPLUGIN_FILE, "clouds.so");
-  unsetenv("QV_CLOUDS_ENDED");
-  // In this process, from a child process, and from the cache.
-  for (ToolSource::Tool const& tool :
-       {readFrei0rTool(file), read().tools.at(0), read().tools.at(0)}) {
-    EXPECT_THAT(tool.facts.infoTexts,
+  install("clouds");
+  install("mute");
+  // From the plug-ins, and from the cache.
+  for (std::vector<ToolSource::Tool> const& tools : {read().tools, read().tools}) {
+    ASSERT_EQ(tools.size(), 2U);
+    EXPECT_THAT(tools[0].facts.infoTexts,
                 ElementsAre("Clouds/Sky", "Paints clouds.", "A. Painter, version 2.10"));
-    EXPECT_EQ(tool.tooltip, "Moving (bool): Whether they move<br>"
-                            "Density (double)<br>"
-                            "Sky (color): Between the clouds<br>"
-                            "Sun (position)<br>"
-                            "Kind (string): cirrus or cumulus<br>"
-                            "Later (unknown type)");
+    EXPECT_EQ(tools[0].tooltip, "Moving (bool): Whether they move<br>"
+                                "Density (double)<br>"
+                                "Sky (color): Between the clouds<br>"
+                                "Sun (position)<br>"
+                                "Kind (string): cirrus or cumulus<br>"
+                                "unnamed (unknown type)");
+    EXPECT_THAT(tools[1].facts.infoTexts, ElementsAre("", "", "version 0.0"));
+    EXPECT_EQ(tools[1].tooltip, "");
   }
-  EXPECT_STREQ(getenv("QV_CLOUDS_ENDED"), "yes");
-  EXPECT_EQ(dlopen(file.c_str(), RTLD_LAZY | RTLD_NOLOAD), nullptr) << "it is still loaded";
-}
-
-TEST_F(Frei0rTools, ThatSayNothingHaveEmptyTexts) {
-  ToolSource::Tool const tool = readFrei0rTool(MUTEPLUGIN_FILE);
-  EXPECT_THAT(tool.facts.infoTexts, ElementsAre("", "", "version 0.0"));
-  EXPECT_EQ(tool.tooltip, "unnamed (double)");
 }
 
 TEST_F(Frei0rTools, AreNeededInTheDirectory) {
@@ -78,129 +87,172 @@ TEST_F(Frei0rTools, AreNeededInTheDirectory) {
     PluginCache cache("");
     return refusalOf([&] { readFrei0rTools(directory, cache); });
   };
-  EXPECT_THAT(reading(directory_), AllOf(HasSubstr(directory_.string()), HasSubstr("no plug-in")));
+  EXPECT_THAT(reading(plugins_), AllOf(HasSubstr(plugins_.string()), HasSubstr("no plug-in")));
   EXPECT_THAT(reading(directory_ / "missing"),
               AllOf(HasSubstr("missing\""), HasSubstr("No such file")));
 }
 
-TEST_F(Frei0rTools, SurviveTheBadOnesAmongThem) {
-  std::vector<std::pair<std::string, fs::path>> const plugins = {
-      {"it crashed with SIGABRT (Aborted)", install(ABORTPLUGIN_FILE, "a.so")},
-      {"it crashed with SIGSEGV (Segmentation fault)", install(CRASHPLUGIN_FILE, "b.so")},
-      {"it did not answer within 2.5 seconds", install(LOOPPLUGIN_FILE, "c.so")},
-      {"it exited with status 3 in place of an answer", install(LEAVEPLUGIN_FILE, "d.so")},
-      {"it garbles its answer", install(GARBLEPLUGIN_FILE, "e.so")},
-      {"it answers with more than 1048576 bytes", install(FLOODPLUGIN_FILE, "f.so")},
-      {"it gives no name", install(UNNAMEPLUGIN_FILE, "g.so")},
-      {"its type 17 is unknown", install(MISTYPEPLUGIN_FILE, "h.so")},
-      {"it claims to have -1 parameters", install(OWEPLUGIN_FILE, "i.so")},
-      {"it claims to have 1001 parameters", install(BOASTPLUGIN_FILE, "j.so")},
-      {"it has no function f0r_get_plugin_info", install(HALFPLUGIN_FILE, "k.so")},
-      {"file too short", write("l.so", "no plug-in")},
-      {"invalid ELF header", write("m.so", std::string(1000, 'x'))},
-      {"", install(RENAMEPLUGIN_FILE, "n.so")},
-      {"", install(PRINTPLUGIN_FILE, "o.so")},
-      {"", install(FORKPLUGIN_FILE, "p.so")},
-      {"", install(CLOUDSPLUGIN_FILE, "q.so")}};
-
-  for (bool const cached : {false, true}) {
-    ToolSource const source = read({.limit = std::chrono::milliseconds(2500)});
-    ASSERT_EQ(source.plugins.size(), plugins.size());
-    for (std::size_t index = 0; index < plugins.size(); ++index) {
-      EXPECT_EQ(source.plugins[index].file, plugins[index].second);
-      EXPECT_EQ(source.plugins[index].failure, plugins[index].first);
-      EXPECT_EQ(source.plugins[index].cached, cached);
-    }
-    ASSERT_EQ(source.tools.size(), 4U);
-    EXPECT_EQ(source.tools[0].facts.infoTexts[0], "caf\xe9");
-    EXPECT_EQ(source.tools[3].facts.name, "q");
-  }
+TEST_F(Frei0rTools, NeedTheirReader) {
+  install("clouds");
+  EXPECT_THAT(refusalOf([&] { read({.reader = directory_ / "missing"}); }),
+              AllOf(HasSubstr("missing\""), HasSubstr("No such file")));
+  EXPECT_THAT(refusalOf([&] { read({.reader = "/bin/true"}); }), HasSubstr("ended before"));
 }
 
-/// One plug-in counts how often it is loaded, another one crashes until it is mended.
-class Frei0rCache : public Frei0rTools {
-protected:
-  Frei0rCache() {
-    setenv("QV_LOADS", (directory_ / "loads").c_str(), 1);
-    unsetenv("QV_MENDED");
+/// A listener on this machine's own network or in its file system.
+class Listener {
+public:
+  Listener(int type, sockaddr const* address, socklen_t size)
+      : socket_(socket(address->sa_family, type | SOCK_NONBLOCK, 0)) {
+    EXPECT_EQ(bind(socket_, address, size), 0);
+    if (type == SOCK_STREAM) {
+      EXPECT_EQ(listen(socket_, 1), 0);
+    }
   }
-  /// How often plug-ins were loaded so far.
-  std::ptrdiff_t loads() const {
-    std::string const text = TemporaryDirectory::read("loads");
-    return std::count(text.begin(), text.end(), ',');
+  Listener(Listener const&) = delete;
+  Listener& operator=(Listener const&) = delete;
+  ~Listener() { close(socket_); }
+
+  uint16_t getPort() const {
+    sockaddr_in address = {};
+    socklen_t size = sizeof address;
+    getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &size);
+    return ntohs(address.sin_port);
+  }
+  bool wasReached() const {
+    pollfd events = {socket_, POLLIN, 0};
+    return poll(&events, 1, 0) != 0;
   }
 
-  fs::path const counting_ = install(COUNTPLUGIN_FILE, "counting.so");
-  fs::path const recovering_ = install(RECOVERPLUGIN_FILE, "recovering.so");
+private:
+  int socket_;
 };
 
-TEST_F(Frei0rCache, SparesTheReadingOfWhatDidNotChange) {
-  read();
-  EXPECT_EQ(loads(), 1);
-  EXPECT_EQ(read().tools.size(), 1U);
-  EXPECT_EQ(loads(), 1);
+TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
+  sockaddr_in internet = {};
+  internet.sin_family = AF_INET;
+  internet.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  Listener const tcp(SOCK_STREAM, reinterpret_cast<sockaddr*>(&internet), sizeof internet);
+  internet.sin_port = htons(tcp.getPort());
+  Listener const udp(SOCK_DGRAM, reinterpret_cast<sockaddr*>(&internet), sizeof internet);
+  sockaddr_un local = {};
+  local.sun_family = AF_UNIX;
+  (directory_ / "home/socket").string().copy(local.sun_path, sizeof local.sun_path - 1);
+  Listener const socket(SOCK_STREAM, reinterpret_cast<sockaddr*>(&local), sizeof local);
+  write("plugins/port", std::to_string(tcp.getPort()));
+  write("plugins/caller", std::to_string(getpid()));
+  std::string const truncated = write("plugins/text.so", "no plug-in");
 
-  // One nanosecond is enough.
-  fs::last_write_time(counting_, fs::last_write_time(counting_) + std::chrono::nanoseconds(1));
-  EXPECT_EQ(read().tools.size(), 1U);
-  EXPECT_EQ(loads(), 2);
-  auto const modified = fs::last_write_time(counting_);
-  std::ofstream(counting_, std::ios::app) << "more";
-  fs::last_write_time(counting_, modified);
-  EXPECT_EQ(read().tools.size(), 1U);
-  EXPECT_EQ(loads(), 3);
+  constexpr char Refused[] = "Operation not permitted";
+  constexpr char Forbidden[] = "made a forbidden system call";
+  // Why one is left out, or what came of what it tried.
+  std::map<std::string, std::string> const expected = {
+      {"unnamed", "no name"},
+      {"mistyped", "unknown type 17"},
+      {"owing", "claims to have -1 parameters"},
+      {"boasting", "claims to have 1001 parameters"},
+      {"half", "no function f0r_get_plugin_info"},
+      {"text", "file too short"},
+      {"\xe9", "Paints clouds."},
 
-  fs::remove(counting_);
-  EXPECT_EQ(read({.retry = true}).tools.size(), 0U);
-  EXPECT_THAT(TemporaryDirectory::read("cache/plugins"),
-              AllOf(HasSubstr("recovering.so"), Not(HasSubstr("counting.so"))));
-}
+      {"abort", "crashed with SIGABRT (Aborted)"},
+      {"crash", "crashed with SIGSEGV (Segmentation fault)"},
+      {"throw", "crashed with SIGABRT (Aborted)"},
+      {"leave", "exited with status 3 without replying"},
+      {"loop", "used more than 1 s of processor time"},
+      {"loopOn", "crashed with SIGKILL (Killed)"},
+      {"garble", "malformed reply"},
+      {"flood", "replied with more than 1048576 bytes"},
+      {"forge", "malformed reply"},
+      {"forgeAndCrash", ""},
+      {"crashLate", "Paints clouds."},
+      {"loopLate", "Paints clouds."},
+      {"print", "Paints clouds."},
 
-TEST_F(Frei0rCache, IsIgnoredWhenItCannotBeUnderstood) {
-  // The last text of the file is not empty.
-  install(CLOUDSPLUGIN_FILE, "z.so");
-  read();
-  std::string const whole = TemporaryDirectory::read("cache/plugins");
-  std::string other = whole;
-  other[other.find('\0') - 1] = '0';
-  std::ptrdiff_t expected = 1;
-  for (std::string const& damaged :
-       {std::string(), std::string("garbage"), other, whole.substr(0, whole.size() - 1),
-        whole.substr(0, whole.find("counting") + 20)}) {
-    write("cache/plugins", damaged);
-    EXPECT_EQ(read().tools.size(), 2U);
-    EXPECT_EQ(loads(), ++expected);
-    EXPECT_EQ(TemporaryDirectory::read("cache/plugins"), whole);
+      {"writeHere", Refused},
+      {"writeBeside", Refused},
+      {"writeAtHome", Refused},
+      {"truncate", Refused},
+      {"remove", Refused},
+      {"expose", Refused},
+      {"read", "Permission denied"},
+      {"readEnvironment", "No such file or directory"},
+      {"sendTcp", Refused},
+      {"sendUdp", Refused},
+      {"sendLocally", Refused},
+      {"signal", Forbidden},
+      {"signalParent", Forbidden},
+      {"signalByPipe", Refused},
+      {"trace", Forbidden},
+      {"daemon", Refused},
+      {"processes", Refused},
+      {"execute", Forbidden},
+#ifndef QV_SANITIZED
+      {"memory", "Cannot allocate memory"},
+#endif
+      {"thread", "done"}};
+  for (auto const& [name, outcome] : expected)
+    if (name != "text" && name != "half")
+      install(name);
+  fs::copy_file(HALFPLUGIN_FILE, plugins_ / "half.so");
+
+  for (bool const cached : {false, true}) {
+    ToolSource const source = read({.processorTime = std::chrono::seconds(1)});
+    std::map<std::string, std::string> outcomes;
+    for (auto const& [file, failure, earlier] : source.plugins) {
+      outcomes[file.stem()] = failure;
+      EXPECT_EQ(earlier, cached);
+    }
+    for (ToolSource::Tool const& tool : source.tools)
+      outcomes[tool.facts.name] = tool.facts.infoTexts[1];
+    EXPECT_EQ(outcomes, expected);
   }
-  // A directory in place of the file, and in place of its directory a file.
-  fs::remove(cache_);
-  fs::create_directories(cache_ / "full");
-  EXPECT_EQ(read().tools.size(), 2U);
-  fs::remove_all(cache_.parent_path());
-  write("cache", "");
-  EXPECT_EQ(read().tools.size(), 2U);
-  EXPECT_EQ(loads(), expected + 2);
+  for (char const* const file : {"written", "plugins/written", "home/written", "home/executed"})
+    EXPECT_FALSE(fs::exists(directory_ / file)) << file;
+  for (Listener const* const listener : {&tcp, &udp, &socket})
+    EXPECT_FALSE(listener->wasReached());
 }
 
-TEST_F(Frei0rCache, IsTheUsersOwnFile) {
-  using User = std::array<char const*, 3>;
-  for (auto const& [cache, home, file] :
-       {User{"/c", "/h", "/c/qvbrowse/plugins"}, User{"c", nullptr, ""}, User{nullptr, "", ""},
-        User{"", "/h", "/h/.cache/qvbrowse/plugins"}, User{"c", "/h", "/h/.cache/qvbrowse/plugins"},
-        User{nullptr, "/h", "/h/.cache/qvbrowse/plugins"}}) {
-    cache ? setenv("XDG_CACHE_HOME", cache, 1) : unsetenv("XDG_CACHE_HOME");
-    home ? setenv("HOME", home, 1) : unsetenv("HOME");
-    EXPECT_EQ(PluginCache::getUserFile(), file);
+TEST_F(Frei0rTools, ThatDoNotReplyInTimeAreLeftOut) {
+  install("sleep");
+  ToolSource const source = read({.time = std::chrono::milliseconds(100)});
+  EXPECT_EQ(source.plugins.at(0).failure, "no reply within 0.1 s");
+}
+
+TEST_F(Frei0rTools, EndWithWhoeverReadsThem) {
+  install("sleep");
+  pid_t const child = fork();
+  if (child == 0) {
+    read();
+    _exit(EXIT_SUCCESS);
   }
+  // It can be opened once the plug-in has opened it.
+  int life = -1;
+  while ((life = open(life_.c_str(), O_WRONLY | O_NONBLOCK)) < 0 && waitpid(child, nullptr, WNOHANG) == 0)
+    usleep(1000);
+  ASSERT_GE(life, 0);
+  kill(child, SIGKILL);
+  waitpid(child, nullptr, 0);
+  pollfd lives = {life, 0, 0};
+  EXPECT_EQ(poll(&lives, 1, 60'000), 1) << "the plug-in still runs";
+  close(life);
 }
 
-TEST_F(Frei0rCache, KeepsFailuresUntilTheyAreRetried) {
-  read();
-  setenv("QV_MENDED", "yes", 1);
-  EXPECT_EQ(read().tools.size(), 1U);
-  EXPECT_EQ(read({.retry = true}).tools.size(), 2U);
-  EXPECT_EQ(read().tools.size(), 2U);
-  EXPECT_EQ(loads(), 1);
+TEST_F(Frei0rTools, LeaveNothingBehindWhereTheyCannotBeIsolated) {
+  EXPECT_THAT(findIsolationGaps(), testing::IsEmpty());
+  install("daemon");
+  pollfd lives = {open(life_.c_str(), O_RDONLY | O_NONBLOCK), POLLIN, 0};
+  runWithoutCalls({SCMP_SYS(landlock_create_ruleset), SCMP_SYS(seccomp)}, [&] {
+    EXPECT_THAT(findIsolationGaps(),
+                AllOf(testing::SizeIs(2), Each(HasSubstr("Function not implemented"))));
+    EXPECT_THAT(refusalOf([&] { read({.requireIsolation = true}); }),
+                AllOf(HasSubstr("Landlock"), HasSubstr("seccomp")));
+    EXPECT_EQ(read().tools.at(0).facts.infoTexts[1], "done");
+  });
+  // It would still hold the pipe if it lived.
+  EXPECT_EQ(poll(&lives, 1, 0), 1);
+  EXPECT_EQ(lives.revents, POLLHUP);
+  close(lives.fd);
 }
 
 } // namespace

@@ -1,0 +1,10 @@
+# What makes a fault in memory harder to use for anybody: in all that is built, checked by
+# tests/binary/hardening. Sanitizers have their own, better means, and fortified calls need
+# optimisation.
+include(CheckPIESupported)
+check_pie_supported()
+add_link_options(LINKER:-z,relro LINKER:-z,now)
+if(NOT QV_SANITIZE)
+  add_compile_options(-fstack-protector-strong
+    $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+endif()

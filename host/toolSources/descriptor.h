@@ -1,0 +1,26 @@
+#pragma once
+
+#include <unistd.h>
+
+namespace Qv {
+
+/// A file descriptor that is closed at the end; -1 is none.
+class Descriptor {
+public:
+  explicit Descriptor(int number = -1) : number_(number) {}
+  Descriptor(Descriptor const&) = delete;
+  Descriptor& operator=(Descriptor const&) = delete;
+  ~Descriptor() { reset(); }
+
+  int get() const { return number_; }
+  void reset(int number = -1) {
+    if (number_ >= 0)
+      close(number_);
+    number_ = number;
+  }
+
+private:
+  int number_;
+};
+
+} // namespace Qv

@@ -1,0 +1,113 @@
+#include "frei0rPlugin.h"
+
+#include <algorithm>
+#include <dlfcn.h>
+#include <span>
+
+extern "C" {
+#include <frei0r.h>
+}
+
+namespace Qv {
+
+namespace {
+
+/// A number of the plug-in interface and what people call it.
+struct Named {
+  int number;
+  char const* name;
+};
+
+constexpr Named PluginTypes[] = {{F0R_PLUGIN_TYPE_SOURCE, PluginCategories[0]},
+                                 {F0R_PLUGIN_TYPE_FILTER, PluginCategories[1]},
+                                 {F0R_PLUGIN_TYPE_MIXER2, PluginCategories[2]},
+                                 {F0R_PLUGIN_TYPE_MIXER3, PluginCategories[3]}};
+
+constexpr Named ParameterTypes[] = {{F0R_PARAM_BOOL, "bool"},
+                                    {F0R_PARAM_DOUBLE, "double"},
+                                    {F0R_PARAM_COLOR, "color"},
+                                    {F0R_PARAM_POSITION, "position"},
+                                    {F0R_PARAM_STRING, "string"}};
+
+/// More than any plug-in has.
+constexpr int MostParameters = 1000;
+
+/// Null when the number is none of them.
+char const* nameOf(int number, std::span<Named const> all) {
+  auto const found = std::find_if(all.begin(), all.end(),
+                                  [&](Named const& named) { return named.number == number; });
+  return found == all.end() ? nullptr : found->name;
+}
+
+/// The text without the blanks around it. Null counts as empty.
+std::string trimmed(char const* text) {
+  std::string result = text ? text : "";
+  constexpr char Blanks[] = " \t\r\n";
+  result.erase(result.find_last_not_of(Blanks) + 1);
+  result.erase(0, result.find_first_not_of(Blanks));
+  return result;
+}
+
+std::string describe(f0r_param_info_t const& parameter) {
+  char const* const type = nameOf(parameter.type, ParameterTypes);
+  std::string text = trimmed(parameter.name);
+  if (text.empty())
+    text = "unnamed";
+  text += std::string(" (") + (type ? type : "unknown type") + ")";
+  std::string const explanation = trimmed(parameter.explanation);
+  return explanation.empty() ? text : text + ": " + explanation;
+}
+
+void* load(char const* file) {
+  if (void* const library = dlopen(file, RTLD_NOW | RTLD_LOCAL))
+    return library;
+  std::string reason = dlerror();
+  // The loader starts with the path that it was given.
+  std::string const prefix = std::string(file) + ": ";
+  if (reason.starts_with(prefix))
+    reason.erase(0, prefix.size());
+  throw PluginError(reason);
+}
+
+} // namespace
+
+Frei0rPlugin::Frei0rPlugin(char const* file)
+    : library_(load(file)), init_(entry<int()>("f0r_init")), deinit_(entry<void()>("f0r_deinit")),
+      getPluginInfo_(entry<void(f0r_plugin_info*)>("f0r_get_plugin_info")),
+      getParamInfo_(entry<void(f0r_param_info*, int)>("f0r_get_param_info")) {
+  init_();
+}
+
+template <class Function> Function* Frei0rPlugin::entry(char const* name) const {
+  if (void* const address = dlsym(library_, name))
+    return reinterpret_cast<Function*>(address);
+  throw PluginError(std::string("no function ") + name);
+}
+
+ScanResult Frei0rPlugin::read() const {
+  f0r_plugin_info_t info = {};
+  getPluginInfo_(&info);
+  char const* const category = nameOf(info.plugin_type, PluginTypes);
+  if (!info.name)
+    throw PluginError("no name");
+  if (!category)
+    throw PluginError("unknown type " + std::to_string(info.plugin_type));
+  if (info.num_params < 0 || info.num_params > MostParameters)
+    throw PluginError("claims to have " + std::to_string(info.num_params) +
+                             " parameters");
+
+  ScanResult result;
+  result.category = category;
+  std::string origin = trimmed(info.author);
+  origin += origin.empty() ? "version " : ", version ";
+  origin += std::to_string(info.major_version) + "." + std::to_string(info.minor_version);
+  result.infoTexts = {trimmed(info.name), trimmed(info.explanation), origin};
+  for (int index = 0; index < info.num_params; ++index) {
+    f0r_param_info_t parameter = {};
+    getParamInfo_(&parameter, index);
+    result.tooltip += (index == 0 ? "" : "<br>") + describe(parameter);
+  }
+  return result;
+}
+
+} // namespace Qv

@@ -1,0 +1,119 @@
+// qvreader [--processor-time SECONDS] [--time MILLISECONDS] FILE...: reads each plug-in file in a
+// process of its own, closed in, as many at a time as there are processors. For each, writes the
+// file and its result on stdout, as texts that each end in a zero byte; in place of a file, an empty
+// text is followed by why none can be read. Started by programs that read tool sources, with a pipe
+// as its stdout.
+
+#include "pluginProcess.h"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <getopt.h>
+#include <iterator>
+#include <memory>
+#include <sys/wait.h>
+#include <thread>
+
+namespace Qv {
+
+namespace {
+
+using Processes = std::vector<std::unique_ptr<PluginProcess>>;
+
+/// Waits until something happens to one of the processes.
+std::vector<pollfd> wait(Processes const& processes) {
+  std::vector<pollfd> events;
+  auto deadline = PluginProcess::Clock::time_point::max();
+  for (std::unique_ptr<PluginProcess> const& process : processes) {
+    std::array<pollfd, 2> const own = process->getEvents();
+    events.insert(events.end(), own.begin(), own.end());
+    deadline = std::min(deadline, process->getDeadline());
+  }
+  auto const left =
+      std::chrono::ceil<std::chrono::milliseconds>(deadline - PluginProcess::Clock::now());
+  poll(events.data(), events.size(), int(std::max<long>(0, left.count())));
+  return events;
+}
+
+/// Ends what plug-ins left behind, all children of this process but those that still read. Where
+/// system calls are filtered, there is nothing.
+void endOrphans(Processes const& processes) {
+  auto const isOrphan = [&](pid_t child) {
+    return std::none_of(processes.begin(), processes.end(),
+                        [&](auto const& process) { return process->getId() == child; });
+  };
+  std::vector<pid_t> orphans;
+  do {
+    std::ifstream children("/proc/thread-self/children");
+    orphans.assign(std::istream_iterator<pid_t>(children), {});
+    std::erase_if(orphans, std::not_fn(isOrphan));
+    for (pid_t const orphan : orphans) {
+      kill(orphan, SIGKILL);
+      waitpid(orphan, nullptr, 0);
+    }
+    // Those that an orphan had started are now children of this process.
+  } while (!orphans.empty());
+}
+
+void readPlugins(std::vector<std::string> const& files, Limits const& limits, int replies) {
+  Isolation const isolation(files);
+  std::size_t const processors = std::max(1U, std::thread::hardware_concurrency());
+  Processes processes;
+  auto next = files.begin();
+  while (next != files.end() || !processes.empty()) {
+    for (; next != files.end() && processes.size() < processors; ++next)
+      processes.push_back(std::make_unique<PluginProcess>(*next, isolation, limits));
+
+    std::vector<pollfd> const events = wait(processes);
+    for (std::size_t index = processes.size(); index-- > 0;) {
+      PluginProcess& process = *processes[index];
+      if (!process.receive(events[2 * index + 1].revents != 0))
+        continue;
+      std::string text;
+      appendText(text, process.getFile());
+      process.takeResult().appendTo(text);
+      writeOrExit(replies, text);
+      processes.erase(processes.begin() + std::ptrdiff_t(index));
+      endOrphans(processes);
+    }
+  }
+}
+
+} // namespace
+
+} // namespace Qv
+
+int main(int argc, char** argv) {
+  using namespace Qv;
+
+  Limits limits = {std::chrono::seconds(5), std::chrono::seconds(30)};
+  constexpr option Options[] = {{"processor-time", required_argument, nullptr, 'p'},
+                                {"time", required_argument, nullptr, 't'},
+                                {}};
+  for (int name = 0; (name = getopt_long(argc, argv, "", Options, nullptr)) != -1;)
+    switch (name) {
+    case 'p':
+      limits.processorTime = std::chrono::seconds(std::atoi(optarg));
+      break;
+    case 't':
+      limits.time = std::chrono::milliseconds(std::atoi(optarg));
+      break;
+    default:
+      return EXIT_FAILURE;
+    }
+
+  int const replies = leaveCaller();
+  try {
+    readPlugins({argv + optind, argv + argc}, limits, replies);
+  } catch (std::exception const& error) {
+    std::string text;
+    appendText(text, "");
+    appendText(text, error.what());
+    writeOrExit(replies, text);
+    return EXIT_FAILURE;
+  }
+  return EXIT_SUCCESS;
+}

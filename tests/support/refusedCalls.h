@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cerrno>
+#include <initializer_list>
+#include <seccomp.h>
+#include <stdexcept>
+#include <thread>
+
+namespace Qv {
+
+/// Runs `f` as on a kernel that has none of these system calls.
+template <class F> void runWithoutCalls(std::initializer_list<int> calls, F f) {
+  // A filter stays for as long as its thread.
+  std::thread([&] {
+    scmp_filter_ctx const filter = seccomp_init(SCMP_ACT_ALLOW);
+    int failed = 0;
+    for (int const call : calls)
+      failed |= seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), call, 0);
+    failed |= seccomp_load(filter);
+    seccomp_release(filter);
+    if (failed != 0)
+      throw std::runtime_error("the system calls cannot be refused");
+    f();
+  }).join();
+}
+
+} // namespace Qv
