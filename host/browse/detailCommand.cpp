@@ -32,7 +32,7 @@ ExitStatus showDetail(Options const& options, Output& output) {
     if (!page)
       page = DetailPage::create(item);
   if (!page) {
-    printProblem(
+    output.printProblem(
         fmt::format("the scheme \"{}\" has no detail view for these items", options.scheme));
     return Failure;
   }

@@ -61,8 +61,8 @@ ExitStatus dragItems(Options const& options, Output& output) {
   if (refused.empty())
     return Success;
   output.finish();
-  printProblem(fmt::format("cannot be dragged out of the scheme \"{}\": {}", options.scheme,
-                           fmt::join(refused, ", ")));
+  output.printProblem(fmt::format("cannot be dragged out of the scheme \"{}\": {}", options.scheme,
+                                  fmt::join(refused, ", ")));
   return Failure;
 }
 

@@ -1,6 +1,5 @@
 #include "output.h"
 
-#include "progress.h"
 #include "safeText.h"
 
 #include <algorithm>
@@ -48,7 +47,7 @@ void Output::begin() {
   struct stat info = {};
   // A file leaves the terminal to the progress line.
   if (fstat(STDOUT_FILENO, &info) != 0 || !S_ISREG(info.st_mode))
-    stopProgress();
+    progress_.stop();
   if (paged_)
     pager_ = Pager::start();
 }
@@ -105,8 +104,12 @@ void Output::finish() {
     throwWriteFailure();
 }
 
+void Output::printProblem(std::string const& problem) {
+  progress_.erase();
+  Qv::printProblem(problem);
+}
+
 void printProblem(std::string const& problem) {
-  eraseProgress();
   std::fputs(fmt::format("qvbrowse: {}\n", escaped(problem)).c_str(), stderr);
 }
 

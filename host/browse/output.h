@@ -2,6 +2,7 @@
 
 #include "json.h"
 #include "pager.h"
+#include "progress.h"
 
 #include <fmt/color.h>
 #include <functional>
@@ -20,8 +21,9 @@ struct Terminal {
   bool colours;
 };
 
-/// Where a command writes its result: the standard output, through a pager where there is one. What
-/// cannot be written throws std::runtime_error.
+/// Where a command writes its result: the standard output, through a pager where there is one.
+/// Until then, a progress line says what is under way. What cannot be written throws
+/// std::runtime_error.
 class Output {
 public:
   using Row = std::vector<std::string>;
@@ -30,6 +32,10 @@ public:
   Output(Terminal terminal, bool json, bool paged);
 
   bool isJson() const { return json_; }
+
+  void setProgress(std::string const& text) { progress_.set(text); }
+  /// Reports on stderr what went wrong, beside the progress line.
+  void printProblem(std::string const& problem);
 
   void write(std::string const& text);
   template <class... Args> void print(fmt::format_string<Args...> format, Args const&... values) {
@@ -57,6 +63,7 @@ private:
   bool paged_;
   bool begun_ = false;
   std::unique_ptr<Pager> pager_;
+  Progress progress_;
 };
 
 /// Reports on stderr what went wrong.

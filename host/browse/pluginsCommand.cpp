@@ -8,8 +8,8 @@ namespace {
 
 ExitStatus showPlugins(Output& output, Session const& session) {
   if (std::vector<std::string> const gaps = findIsolationGaps(); !gaps.empty())
-    printProblem(fmt::format("plug-ins cannot be isolated completely on this machine: {}",
-                             fmt::join(gaps, ", ")));
+    output.printProblem(fmt::format("plug-ins cannot be isolated completely on this machine: {}",
+                                    fmt::join(gaps, ", ")));
   Json plugins = Json::array();
   for (auto const& [file, failure, cached] : session.getPlugins()) {
     Json json = {{"file", file.string()}, {"read", failure.empty()}, {"cached", cached}};

@@ -1,14 +1,11 @@
 #include "program.h"
 
-#include "progress.h"
-
 #include <sstream>
 
 namespace Qv {
 
 Program::Program()
     : app_("Browses the schemes that a module adds to the asset browser.", "qvbrowse") {
-  sessionOptions_.scan.progress = &setProgress;
   app_.set_version_flag("--version", "qvbrowse " QV_VERSION, "Print the version and exit");
   app_.fallthrough();
   app_.require_subcommand(0, 1);
@@ -56,19 +53,19 @@ ExitStatus Program::run(int argc, char const* const* argv) {
 }
 
 ExitStatus Program::runCommand() {
-  Progress const progress;
+  Output output(Terminal::ofStandardOutput(), json_, !noPager_);
+  sessionOptions_.scan.progress = [&output](std::string const& text) { output.setProgress(text); };
   Session const session(sessionOptions_);
   bool partial = false;
   for (auto const& [file, failure, cached] : session.getPlugins()) {
     if (failure.empty())
       continue;
     partial = true;
-    printProblem(fmt::format("the plug-in \"{}\" is left out: {}{}", file.string(), failure,
-                             cached ? "; \"plugins --retry\" tries it again" : ""));
+    output.printProblem(fmt::format("the plug-in \"{}\" is left out: {}{}", file.string(), failure,
+                                    cached ? "; \"plugins --retry\" tries it again" : ""));
   }
 
-  setProgress("listing");
-  Output output(Terminal::ofStandardOutput(), json_, !noPager_);
+  output.setProgress("listing");
   ExitStatus const status = command_(output, session);
   output.finish();
   return status == Success && partial ? Partial : status;

@@ -31,8 +31,8 @@ ExitStatus searchItems(Options const& options, Output& output) {
   if (!result.empty())
     return Success;
   output.finish();
-  printProblem(fmt::format("no name or label in the scheme \"{}\" contains \"{}\"", options.scheme,
-                           options.text));
+  output.printProblem(fmt::format("no name or label in the scheme \"{}\" contains \"{}\"",
+                                  options.scheme, options.text));
   return Failure;
 }
 

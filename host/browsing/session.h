@@ -3,6 +3,7 @@
 #include "hostJournal.h"
 #include "hostModule.h"
 #include "pluginScan.h"
+#include "toolSource.h"
 
 #include <optional>
 
