@@ -1,10 +1,9 @@
 #include "assertions.h"
 #include "iteratorEx.h"
-#include "rcExUtil.h"
+#include "thrown.h"
 
 #include <gmock/gmock.h>
 
-#include <stdexcept>
 #include <type_traits>
 
 namespace Qv {
@@ -13,19 +12,10 @@ namespace {
 using testing::AllOf;
 using testing::HasSubstr;
 
-/// Returns what `f` throws, after all that `f` passed on is gone.
-template <class Ex, class F> Ex thrownBy(F f) {
-  static_assert(std::is_base_of_v<ExBase, Ex> && std::is_base_of_v<std::exception, ExBase>);
-  try {
-    f();
-  } catch (Ex const& ex) {
-    return ex;
-  }
-  throw std::logic_error("nothing was thrown");
-}
 std::string temporary(char const* text) { return std::string(text) + std::string(40, '.'); }
 
-TEST(ExceptionTest, keepTheirArguments) {
+TEST(Exceptions, keepTheirArguments) {
+  static_assert(std::is_base_of_v<std::exception, ExBase>);
   auto const null =
       thrownBy<ExNullPtr>([] { RCExUtil::throwExNullPtr(temporary("Pointer").c_str()); });
   EXPECT_EQ(null.getTypeName(), temporary("Pointer"));

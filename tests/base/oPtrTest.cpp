@@ -1,6 +1,6 @@
 #include "oPtr.h"
 #include "allocations.h"
-#include "nullPointee.h"
+#include "thrown.h"
 
 namespace Qv {
 namespace {
@@ -15,9 +15,9 @@ struct Special : Owned {
   std::string text = std::string(100, 'x');
 };
 
-class OPtrTest : public NoLeaks {};
+class SoleOwner : public NoLeaks {};
 
-TEST_F(OPtrTest, passingByValueHandsTheObjectOver) {
+TEST_F(SoleOwner, handsItsObjectOverByValue) {
   auto const consume = [](OPtr<Owned> owner) { return owner.get(); };
   auto const hand = [](Owned* object) -> OPtrRet<Owned> { return OPtrRet<Owned>(object); };
   auto* const object = new Owned;
@@ -29,7 +29,7 @@ TEST_F(OPtrTest, passingByValueHandsTheObjectOver) {
   static_assert(!std::is_copy_constructible_v<OPtr<Owned>>);
 }
 
-TEST_F(OPtrTest, assignmentDeletesTheOldObject) {
+TEST_F(SoleOwner, deletesItsOldObjectWhenAssigned) {
   OPtr<Owned> owner(new Owned);
   OPtr<Owned> other(new Owned);
   Owned const* const kept = other.get();
@@ -46,14 +46,14 @@ TEST_F(OPtrTest, assignmentDeletesTheOldObject) {
   EXPECT_EQ(Owned::living, 0);
 }
 
-TEST_F(OPtrTest, convertsToAnOwnerThroughTheBase) {
+TEST_F(SoleOwner, convertsToAnOwnerThroughTheBase) {
   OPtr<Special> special(new Special);
   OPtr<Owned> const owner = std::move(special);
   EXPECT_FALSE(special);
   EXPECT_TRUE(owner);
 }
 
-TEST_F(OPtrTest, nullDereferenceNamesThePointerType) {
+TEST_F(SoleOwner, namesItsTypeWhenItIsNull) {
   OPtr<Special> const null;
   EXPECT_EQ(nullPointeeOf([&] { *null; }), "Qv::(anonymous namespace)::Special*");
   EXPECT_EQ(nullPointeeOf([&] { null->text.clear(); }), "Qv::(anonymous namespace)::Special*");

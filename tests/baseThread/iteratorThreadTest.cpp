@@ -20,7 +20,7 @@ using Elements = List<Element>;
 using Engine = IteratorSTL<Elements, RCStrongPtr<Elements>, IteratorAccessorPassthrough>;
 using It = Iterator<Element>;
 
-class IteratorThreadTest : public NoLeaks {
+class ThreadedIterator : public NoLeaks {
 protected:
   /// An engine over as many zeros as there are threads.
   Engine* makeEngine() {
@@ -36,7 +36,7 @@ protected:
   long sum_ = 0;
 };
 
-TEST_F(IteratorThreadTest, copiesMoveOnThreadsOfTheirOwn) {
+TEST_F(ThreadedIterator, movesOnThreadsOfItsOwn) {
   for (int round = 0; round < Rounds; ++round) {
     sum_ = 0;
     auto held = copiesOf(It(RCPvtEngPtr<IteratorImp<Element>>(makeEngine())));
@@ -51,7 +51,7 @@ TEST_F(IteratorThreadTest, copiesMoveOnThreadsOfTheirOwn) {
   }
 }
 
-TEST_F(IteratorThreadTest, lastHolderMovesTheEngineThatOthersHaveRead) {
+TEST_F(ThreadedIterator, movesInPlaceWhenAllOthersHaveRead) {
   for (int round = 0; round < Rounds; ++round) {
     Engine* const engine = makeEngine();
     It mover{RCPvtEngPtr<IteratorImp<Element>>(engine)};

@@ -21,12 +21,12 @@ private:
 };
 struct Uncounted {};
 
-template <class Pointer> class PointerThreadTest : public NoLeaks {};
+template <class Pointer> class ThreadedPointer : public NoLeaks {};
 using Pointers =
     testing::Types<RCShdPtr<Slots<RCBase<LkCounter<int>>>>, RCStrongPtr<Slots<Uncounted>>>;
-TYPED_TEST_SUITE(PointerThreadTest, Pointers);
+TYPED_TEST_SUITE(ThreadedPointer, Pointers);
 
-TYPED_TEST(PointerThreadTest, lastReleaseSeesWhatEveryHolderWrote) {
+TYPED_TEST(ThreadedPointer, showsItsLastHolderWhatAllOthersWrote) {
   using Pointer = TypeParam;
   using Pointee = std::remove_reference_t<decltype(*Pointer())>;
   std::vector<long> sums;
