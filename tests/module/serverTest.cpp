@@ -71,9 +71,6 @@ TEST_P(Server, givesTheNodeForAPath) {
   }
   EXPECT_THROW(server->getNode(GetParam().refusedPath, message), ExProgramAborted);
   EXPECT_EQ(message, "untouched");
-  RCShdPtr<BrBrowsable> const root = server->getRootNode()->getBrowsable();
-  EXPECT_EQ(root->getPath(), "");
-  EXPECT_EQ(server->getNodeFromBrowsable(root, message)->getBrowsable(), root);
 }
 
 template <class T> OPtr<BrServer> make() { return OPtr<BrServer>(new T); }
