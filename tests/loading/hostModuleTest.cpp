@@ -3,6 +3,7 @@
 #include "hostFiles.h"
 #include "hostPackageManager.h"
 #include "hostResources.h"
+#include "inInit.imp.h"
 #include "refusal.h"
 #include "registries.h"
 #include "temporaryDirectory.h"
@@ -10,7 +11,13 @@
 #include <dlfcn.h>
 #include <gmock/gmock.h>
 
+namespace QvInit {
+class QV_EXPORT nowhere {};
+} // namespace QvInit
+
 namespace Qv {
+
+template <> InInit<QvInit::nowhere>::InInit() : InPackageInit("nowhere") { registerPackage(); }
 
 namespace {
 
@@ -18,6 +25,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::UnorderedElementsAreArray;
 
+/// A host without tools, views and modules, and with a journal that is kept until the test ends.
 class LoadedModule : public testing::Test, protected TemporaryDirectory {
 protected:
   LoadedModule() {
@@ -37,13 +45,11 @@ protected:
   HostJournal& journal_ = HostJournal::getInstance();
 };
 
-std::vector<std::string> const dependencies = {
-    "appUi", "ui", "datamgt", "gfx", "framework", "internalAPI", "pluginAPI", "resmgt", "base"};
-
 /// What loading the module does to the host.
 Calls loading() {
   Calls calls = {{"InPackageInit::registerPackage", "pluginBrowserQvmodule", ""}};
-  for (std::string const& dependency : dependencies)
+  for (std::string const dependency :
+       {"appUi", "ui", "datamgt", "gfx", "framework", "internalAPI", "pluginAPI", "resmgt", "base"})
     calls.push_back({"InPackageInit::addDependency", "pluginBrowserQvmodule",
                      "Qv::InInit<QvInit::" + dependency + ">"});
   return calls;
@@ -65,12 +71,15 @@ Calls initialisation() {
                  {"BrRegistry::registerView", "detail", "Qv::PbrToolView"},
                  {"BrRegistry::registerServer", "tools", ""},
                  {"BrRegistry::registerServer", "views", ""}};
-  std::vector<std::pair<char const*, char const*>> const icons = {
-      {"Tools Folder", "folder.tif"},    {"Tool Category", "folder.tif"},   {"Tool", "tool.tif"},
-      {"Super Tool", "supertool.tif"},   {"Views Folder", "folder.tif"},    {"View", "view.tif"},
-      {"ToolsSchemeIcon", "scheme.tif"}, {"ViewsSchemeIcon", "scheme.tif"},
-  };
-  for (auto const& [key, file] : icons) {
+  for (auto const& [key, file] : std::initializer_list<std::pair<char const*, char const*>>{
+           {"Tools Folder", "folder.tif"},
+           {"Tool Category", "folder.tif"},
+           {"Tool", "tool.tif"},
+           {"Super Tool", "supertool.tif"},
+           {"Views Folder", "folder.tif"},
+           {"View", "view.tif"},
+           {"ToolsSchemeIcon", "scheme.tif"},
+           {"ViewsSchemeIcon", "scheme.tif"}}) {
     calls.push_back({"UiIconRegistry::loadImage", file, ""});
     calls.push_back({"BrRegistry::registerIcon", key, ""});
   }
@@ -180,20 +189,14 @@ TEST_F(LoadedModule, registersNullImagesToo) {
   std::filesystem::copy(std::filesystem::path(RESOURCE_DIR) / "bvTool.xml", directory_);
   HostResources::getInstance().setDirectory(directory_);
   HostModule const module(PLUGINBROWSERQVMODULE_FILE);
-  Calls const all = registered();
-  EXPECT_EQ(std::count_if(all.begin(), all.end(),
-                          [](auto const& call) { return call.detail == "no image"; }),
-            8);
-  Calls const& calls = journal_.getEntries();
-  EXPECT_EQ(
-      std::count(calls.begin(), calls.end(),
-                 HostJournal::Entry{"UiIconRegistry::loadImage", "folder.tif", "no such image"}),
-      3);
-  EXPECT_EQ(all.back().key, "Open in Window");
-}
-
-std::string refusal(std::string const& file) {
-  return refusalOf([&] { HostModule const module(file); });
+  auto const& icons = HostBrRegistry::getInstance().getIcons();
+  EXPECT_EQ(icons.size(), 8U);
+  for (auto const& [key, image] : icons)
+    EXPECT_FALSE(image) << key.first;
+  EXPECT_THAT(journal_.getEntries(),
+              testing::Contains(
+                  HostJournal::Entry{"UiIconRegistry::loadImage", "view.tif", "no such image"}));
+  EXPECT_EQ(HostActRegistry::getInstance().getEntries().size(), 2U);
 }
 
 TEST_F(LoadedModule, staysWhenAnotherIsRefusedWithTheReason) {
@@ -202,18 +205,27 @@ TEST_F(LoadedModule, staysWhenAnotherIsRefusedWithTheReason) {
   std::filesystem::path const text = write("text.qvmodule", "no shared library");
   std::filesystem::path const copy = directory_ / "copy.qvmodule";
   std::filesystem::copy_file(PLUGINBROWSERQVMODULE_FILE, copy);
-  for (auto const& [file, reason] : std::map<std::string, char const*>{
+  auto const expectRefusal = [](std::filesystem::path const& file, char const* reason) {
+    EXPECT_THAT(refusalOf([&] { HostModule const refused(file); }), HasSubstr(reason));
+  };
+  for (auto const& [file, reason] : std::initializer_list<std::pair<std::string, char const*>>{
            {"/nowhere/x.qvmodule",
             "cannot load the module \"/nowhere/x.qvmodule\": cannot open shared object file"},
            {text, ": file too short"},
            {copy, "registers a package \"pluginBrowserQvmodule\", which exists already"},
            {EMPTYMODULE_FILE, "registers no package"}}) {
-    EXPECT_THAT(refusal(file), HasSubstr(reason));
+    expectRefusal(file, reason);
     EXPECT_EQ(HostBrRegistry::getInstance().getServers().size(), 2U);
   }
-  EXPECT_THAT(refusal(LOSTMODULE_FILE),
-              HasSubstr("package \"lost\" in \"" LOSTMODULE_FILE "\" depends on the package "
-                        "Qv::InInit<QvInit::nowhere>, which no loaded library provides"));
+  // What a package fails with ends the start of all.
+  expectRefusal(LOSTMODULE_FILE,
+                "package \"lost\" in \"" LOSTMODULE_FILE "\" depends on the package "
+                "Qv::InInit<QvInit::nowhere>, which no loaded library provides");
+  {
+    InInit<QvInit::nowhere> const found;
+    expectRefusal(LOSTMODULE_FILE, "throws what is not an exception: Qv::Despair");
+  }
+  EXPECT_THAT(registered(), IsEmpty());
   EXPECT_EQ(HostPackageManager::getInstance().getPackages().size(), packages);
 }
 

@@ -9,7 +9,8 @@ namespace Qv {
 /// A sequence whose engines answer as a test wants them to.
 template <class T> struct FakeSequence {
   std::vector<T> values;
-  int cardinality = 0;
+  /// What the engines answer, be it true or not.
+  int cardinality = -1;
   bool clonesToNull = false;
   /// How many clones have been made.
   int clones = 0;
