@@ -15,20 +15,7 @@ protected:
 class Circle : public Shape {};
 class Square : public Shape {};
 
-class SharedPointer : public NoLeaks {
-protected:
-  template <class T> static std::string dumped(RCShdPtr<T> const& pointer) {
-    std::ostringstream os;
-    os << std::hex << std::showbase;
-    pointer.dump(os);
-    return os.str();
-  }
-  static std::string address(void const* pointer) {
-    std::ostringstream os;
-    os << pointer;
-    return os.str();
-  }
-};
+class SharedPointer : public NoLeaks {};
 
 TEST_F(SharedPointer, leavesTheCountAndNullWhenMoved) {
   RCShdPtr<Shape> source(new Shape);
@@ -83,13 +70,19 @@ TEST_F(SharedPointer, convertsToADerivedClassOrSaysWhyNot) {
 
 TEST_F(SharedPointer, dumpsTypesCountAndAddresses) {
   std::vector<RCShdPtr<Shape const>> const pointers(17, RCShdPtr<Shape const>(new Circle));
-  std::string const where = address(pointers[0].get());
-  EXPECT_EQ(dumped(pointers[0]), "Pointee type = Qv::(anonymous namespace)::Circle, "
-                                 "T type = Qv::(anonymous namespace)::Shape, ref: 17, pointer:" +
-                                     where + ", RCBase pointer: " + where);
-  EXPECT_EQ(dumped(RCShdPtr<Shape const>()),
-            "Pointee type = null, T type = Qv::(anonymous namespace)::Shape, ref: 0, pointer:" +
-                address(nullptr) + ", RCBase pointer: " + address(nullptr));
+  std::ostringstream text;
+  text << std::hex << std::showbase;
+  pointers[0].dump(text);
+  RCShdPtr<Shape const>().dump(text);
+  void const* const where = pointers[0].get();
+  void const* const nowhere = nullptr;
+  std::ostringstream expected;
+  expected << "Pointee type = Qv::(anonymous namespace)::Circle, T type = Qv::(anonymous "
+              "namespace)::Shape, ref: 17, pointer:"
+           << where << ", RCBase pointer: " << where
+           << "Pointee type = null, T type = Qv::(anonymous namespace)::Shape, ref: 0, pointer:"
+           << nowhere << ", RCBase pointer: " << nowhere;
+  EXPECT_EQ(text.str(), expected.str());
 }
 
 } // namespace

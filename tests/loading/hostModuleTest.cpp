@@ -71,15 +71,11 @@ Calls initialisation() {
                  {"BrRegistry::registerView", "detail", "Qv::PbrToolView"},
                  {"BrRegistry::registerServer", "tools", ""},
                  {"BrRegistry::registerServer", "views", ""}};
-  for (auto const& [key, file] : std::initializer_list<std::pair<char const*, char const*>>{
-           {"Tools Folder", "folder.tif"},
-           {"Tool Category", "folder.tif"},
-           {"Tool", "tool.tif"},
-           {"Super Tool", "supertool.tif"},
-           {"Views Folder", "folder.tif"},
-           {"View", "view.tif"},
-           {"ToolsSchemeIcon", "scheme.tif"},
-           {"ViewsSchemeIcon", "scheme.tif"}}) {
+  std::pair<char const*, char const*> const icons[] = {
+      {"Tools Folder", "folder.tif"},    {"Tool Category", "folder.tif"},  {"Tool", "tool.tif"},
+      {"Super Tool", "supertool.tif"},   {"Views Folder", "folder.tif"},   {"View", "view.tif"},
+      {"ToolsSchemeIcon", "scheme.tif"}, {"ViewsSchemeIcon", "scheme.tif"}};
+  for (auto const& [key, file] : icons) {
     calls.push_back({"UiIconRegistry::loadImage", file, ""});
     calls.push_back({"BrRegistry::registerIcon", key, ""});
   }

@@ -74,15 +74,6 @@ TEST_F(DndHandlers, letToolsBeDragged) {
   expectDrags(*toolHandler_, {{tool(""), false, "tool Tools"}});
 }
 
-TEST_F(DndHandlers, lookTheToolUpAndAddOneItem) {
-  journal_.start();
-  toolHandler_->populateSelection(tool("Colour/invert"),
-                                  Carrier(new DrCarrier(SnSelection::create())));
-  EXPECT_THAT(calls(), testing::ElementsAre(
-                           "PiToolRegistry::isSuperTool(invert)", "PiToolRegistry::getTool(invert)",
-                           "SnSelection::addItem(" + typeName(typeid(DraggedToolItem)) + ")"));
-}
-
 TEST_F(DndHandlers, letViewsBeDragged) {
   expectDrags(*viewHandler_, {{Browsable(), false, ""},
                               {tool("Colour/invert"), false, ""},
