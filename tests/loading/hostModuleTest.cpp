@@ -45,32 +45,35 @@ protected:
   HostJournal& journal_ = HostJournal::getInstance();
 };
 
-/// What loading the module does to the host.
-Calls loading() {
+constexpr std::size_t CallsOfLoading = 10;
+
+/// What the start of the module does to the host.
+Calls startUp() {
   Calls calls = {{"InPackageInit::registerPackage", "pluginBrowserQvmodule", ""}};
   for (std::string const dependency :
        {"appUi", "ui", "datamgt", "gfx", "framework", "internalAPI", "pluginAPI", "resmgt", "base"})
     calls.push_back({"InPackageInit::addDependency", "pluginBrowserQvmodule",
                      "Qv::InInit<QvInit::" + dependency + ">"});
-  return calls;
-}
+  EXPECT_EQ(calls.size(), CallsOfLoading);
+  for (char const* package : {"base", "resmgt", "datamgt", "internalAPI", "framework", "gfx", "ui",
+                              "appUi", "pluginAPI", "pluginBrowserQvmodule"})
+    calls.push_back({"InPackageInit::initialize", package, ""});
 
-/// What the module's initialisation does to the host.
-Calls initialisation() {
   std::string const name = std::to_string(BrBrowsable::NAME);
-  Calls calls = {{"InBuildInfoUtil::registerInfo", "libQvpluginBrowserQvmodule", "8.0"},
-                 {"BrAttribList::append", "Type", ""},
-                 {"BrAttribList::append", "Tool", ""},
-                 {"BrAttribList::singleSort", name, ""},
-                 {"BrAttribList::append", "Type", ""},
-                 {"BrAttribList::append", "View", ""},
-                 {"BrAttribList::singleSort", name, ""},
-                 {"BrDndRegistry::addHandler", "Qv::PbrToolBrowsable", "Qv::PbrToolDndHandler"},
-                 {"BrDndRegistry::addHandler", "Qv::PbrViewBrowsable", "Qv::PbrViewDndHandler"},
-                 {"UiResTable::load", "bvTool.xml", ""},
-                 {"BrRegistry::registerView", "detail", "Qv::PbrToolView"},
-                 {"BrRegistry::registerServer", "tools", ""},
-                 {"BrRegistry::registerServer", "views", ""}};
+  calls.insert(calls.end(),
+               {{"InBuildInfoUtil::registerInfo", "libQvpluginBrowserQvmodule", "8.0"},
+                {"BrAttribList::append", "Type", ""},
+                {"BrAttribList::append", "Tool", ""},
+                {"BrAttribList::singleSort", name, ""},
+                {"BrAttribList::append", "Type", ""},
+                {"BrAttribList::append", "View", ""},
+                {"BrAttribList::singleSort", name, ""},
+                {"BrDndRegistry::addHandler", "Qv::PbrToolBrowsable", "Qv::PbrToolDndHandler"},
+                {"BrDndRegistry::addHandler", "Qv::PbrViewBrowsable", "Qv::PbrViewDndHandler"},
+                {"UiResTable::load", "bvTool.xml", ""},
+                {"BrRegistry::registerView", "detail", "Qv::PbrToolView"},
+                {"BrRegistry::registerServer", "tools", ""},
+                {"BrRegistry::registerServer", "views", ""}});
   std::pair<char const*, char const*> const icons[] = {
       {"Tools Folder", "folder.tif"},    {"Tool Category", "folder.tif"},  {"Tool", "tool.tif"},
       {"Super Tool", "supertool.tif"},   {"Views Folder", "folder.tif"},   {"View", "view.tif"},
@@ -84,27 +87,15 @@ Calls initialisation() {
   return calls;
 }
 
-/// What the start of the module does to the host.
-Calls startUp() {
-  Calls calls = loading();
-  for (char const* package : {"base", "resmgt", "datamgt", "internalAPI", "framework", "gfx", "ui",
-                              "appUi", "pluginAPI", "pluginBrowserQvmodule"})
-    calls.push_back({"InPackageInit::initialize", package, ""});
-  for (HostJournal::Entry const& call : initialisation())
-    calls.push_back(call);
-  return calls;
-}
-
 /// What the registries hold after the first `count` of these calls.
 Calls registrations(Calls const& calls, std::size_t count) {
   Calls result;
-  for (std::size_t index = 0; index < count; ++index) {
+  for (std::size_t index = CallsOfLoading; index < count; ++index) {
     HostJournal::Entry call = calls[index];
     if (call.operation == "BrRegistry::registerIcon")
       call.detail = calls[index - 1].key;
-    if (!call.operation.starts_with("InPackageInit::") &&
-        !call.operation.starts_with("BrAttribList::") && call.operation != "UiResTable::load" &&
-        call.operation != "UiIconRegistry::loadImage")
+    if (call.operation.find("::register") != std::string::npos ||
+        call.operation == "BrDndRegistry::addHandler")
       result.push_back(call);
   }
   return result;
@@ -138,21 +129,6 @@ TEST_F(LoadedModule, withdrawsNothingAndTheHooksDoNothing) {
   EXPECT_EQ(registered(), before);
 }
 
-TEST_F(LoadedModule, leavesWhenItIsUnloaded) {
-  long before = 0;
-  for (int round = 0; round < 100; ++round) {
-    { HostModule const module(PLUGINBROWSERQVMODULE_FILE); }
-    ASSERT_EQ(dlopen(PLUGINBROWSERQVMODULE_FILE, RTLD_NOW | RTLD_NOLOAD), nullptr);
-    ASSERT_EQ(findPackage(), nullptr);
-    ASSERT_THAT(registered(), IsEmpty());
-    journal_.start();
-    // The first round leaves what is made once and kept.
-    if (round == 0)
-      before = liveAllocations();
-    ASSERT_EQ(liveAllocations(), before) << "in round " << round;
-  }
-}
-
 TEST_F(LoadedModule, leavesWhatItRegisteredBeforeAFailureOfTheHost) {
   { HostModule const module(PLUGINBROWSERQVMODULE_FILE); }
   Calls const calls = startUp();
@@ -170,10 +146,11 @@ TEST_F(LoadedModule, leavesWhatItRegisteredBeforeAFailureOfTheHost) {
       };
       EXPECT_EQ(refusalOf(initialize), calls[failing].operation + " was told to fail");
       // Loading goes on after a failure; initialising does not.
-      EXPECT_EQ(journal_.getEntries().size(), std::max(failing + 1, loading().size()));
+      EXPECT_EQ(journal_.getEntries().size(), std::max(failing + 1, CallsOfLoading));
       EXPECT_THAT(registered(), UnorderedElementsAreArray(registrations(calls, failing)));
       manager.uninitializeAll();
     }
+    EXPECT_EQ(dlopen(PLUGINBROWSERQVMODULE_FILE, RTLD_NOW | RTLD_NOLOAD), nullptr);
     EXPECT_EQ(findPackage(), nullptr);
     EXPECT_THAT(registered(), IsEmpty());
     journal_.start();

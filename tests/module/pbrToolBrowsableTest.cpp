@@ -1,7 +1,5 @@
 #include "moduleTest.h"
 
-#include "hostError.h"
-
 namespace Qv {
 
 namespace {
@@ -191,20 +189,6 @@ TEST_F(ToolChildrenQuery, yieldsWhatTheContainerAndTheFilterSay) {
       EXPECT_EQ(childPaths(*browsable, filter), item.children);
     EXPECT_EQ(childPaths(*browsable, ItemsOnly), item.items);
   }
-}
-
-TEST_F(ToolChildrenQuery, staysPendingWhenAChildFails) {
-  RCShdPtr<PbrToolBrowsable> const category = tool("Colour");
-  RCShdPtr<BrChildrenQuery> const query = category->getChildren(AllChildren);
-  journal_.start();
-  journal_.failAt(2);
-  EXPECT_THROW(query->getNextChildSequence(), HostError);
-  EXPECT_THAT(calls(), ElementsAre("PiToolRegistry::isSuperTool(invert)",
-                                   "PiToolRegistry::isSuperTool(Grade)",
-                                   "PiToolRegistry::isSuperTool(blur)"));
-  journal_.stop();
-  EXPECT_THAT(paths(query->getNextChildSequence()),
-              ElementsAre("Colour/invert", "Colour/Grade", "Colour/blur"));
 }
 
 } // namespace
