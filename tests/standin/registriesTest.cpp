@@ -48,7 +48,7 @@ protected:
 TEST_F(Registries, refuseWithTheReasonAndStayAsTheyWere) {
   using namespace std::string_literals;
   InInit<Circle> circle;
-  Calls const before = registered();
+  auto const before = registered();
   struct Case {
     std::string reason;
     std::function<void()> ask;
@@ -77,8 +77,10 @@ TEST_F(Registries, refuseWithTheReasonAndStayAsTheyWere) {
     EXPECT_FALSE(tools_.getTool("a"));
   }
   HostDndRegistry& handlers = HostDndRegistry::getInstance();
-  EXPECT_FALSE(handlers.add(handlers.getEntries()[0].type, handlers.getEntries()[1].handler));
-  EXPECT_EQ(registered(), before) << "the first handler of a class stays";
+  auto const [type, handler] = handlers.getEntries()[0];
+  EXPECT_FALSE(handlers.add(type, handlers.getEntries()[1].handler));
+  EXPECT_EQ(registered(), before);
+  EXPECT_EQ(handlers.getEntries()[0].handler, handler) << "the first handler of a class stays";
   browser_.clear();
   EXPECT_EQ(refusalOf([&] { module_.initialize(); }),
             "an action named \"Open\" is registered already");
