@@ -76,14 +76,6 @@ private:
 constexpr BrBrowsable::FindFilter AllChildren{0};
 constexpr BrBrowsable::FindFilter ItemsOnly{2};
 
-/// Expects that `f` aborts there, without a message.
-template <class F> void expectAbort(F f, std::string const& file, int line) {
-  auto const ex = thrownBy<ExProgramAborted>(f);
-  EXPECT_EQ(ex.getFile(), "modules\\pluginBrowser\\src\\" + file);
-  EXPECT_EQ(ex.getLine(), line);
-  EXPECT_EQ(ex.getMessage(), nullptr);
-}
-
 /// All elements of a sequence.
 template <class T> std::vector<T> collect(Iterator<T> elements) {
   std::vector<T> result;

@@ -75,11 +75,6 @@ TEST_F(ToolBrowsable, isWhatItsPathSays) {
   }
 }
 
-TEST_F(ToolBrowsable, refusesLongerPaths) {
-  for (char const* path : {"a/b/c", "Colour/invert/x/y"})
-    expectAbort([&] { tool(path); }, "pbrToolBrowsable", 171);
-}
-
 TEST_F(ToolBrowsable, keepsWhatItLearnt) {
   RCShdPtr<PbrToolBrowsable> const category = tool("Grade");
   tools_.clear();

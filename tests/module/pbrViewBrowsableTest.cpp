@@ -54,11 +54,6 @@ TEST_F(ViewBrowsable, isWhatItsPathSays) {
   }
 }
 
-TEST_F(ViewBrowsable, refusesLongerPaths) {
-  for (char const* path : {"a/b", "/graph//graph/", "a/b/c"})
-    expectAbort([&] { view(path); }, "pbrViewBrowsable", 113);
-}
-
 TEST_F(ViewBrowsable, equalsItemsOfTheSameViewName) {
   EXPECT_TRUE(view("/graph")->isEqualTo(*view("graph//")));
   EXPECT_TRUE(view("")->isEqualTo(*view("Views")));

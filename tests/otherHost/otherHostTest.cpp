@@ -112,6 +112,14 @@ protected:
   }
 };
 
+/// Expects that `f` aborts there, without a message.
+template <class F> void expectAbort(F f, std::string const& file, int line) {
+  auto const ex = thrownBy<ExProgramAborted>(f);
+  EXPECT_EQ(ex.getFile(), "modules\\pluginBrowser\\src\\" + file);
+  EXPECT_EQ(ex.getLine(), line);
+  EXPECT_EQ(ex.getMessage(), nullptr);
+}
+
 TEST_F(OtherHost, answersTheAttributesThatItemsDoNot) {
   using Item = RCShdPtr<BrBrowsable>;
   for (Item const& item :
