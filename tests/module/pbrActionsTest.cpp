@@ -73,7 +73,6 @@ TEST_F(Actions, reportTheFirstThatIsMissingAndOpenNothing) {
     for (Node const& node : {viewNode("graph"), toolNode(), emptyNode_})
       EXPECT_EQ(missing(node), "Qv::UiWorkspace*");
     HostWorkspace::setCurrent(workspace_);
-    EXPECT_EQ(missing(Node()), "Qv::BrNode*");
     for (Node const& node : {toolNode(), emptyNode_})
       EXPECT_EQ(missing(node), "Qv::PbrViewBrowsable*");
   }
