@@ -9,7 +9,7 @@ namespace {
 
 // The operators are called by name, since new expressions may be optimised away.
 
-TEST(AllocationsTest, reportWhatIsLostOrSwallowed) {
+TEST(FailingAllocations, areReportedWhenLostOrSwallowed) {
   static void* lost = nullptr;
   auto const loses = [] {
     lost = ::operator new(1);

@@ -1,10 +1,9 @@
 #include "assertions.h"
 #include "iteratorEx.h"
-#include "rcExUtil.h"
+#include "thrown.h"
 
 #include <gmock/gmock.h>
 
-#include <stdexcept>
 #include <type_traits>
 
 namespace Qv {
@@ -13,41 +12,26 @@ namespace {
 using testing::AllOf;
 using testing::HasSubstr;
 
-/// Returns what `f` throws, after all that `f` passed on is gone.
-template <class Ex, class F> Ex thrownBy(F f) {
-  static_assert(std::is_base_of_v<ExBase, Ex> && std::is_base_of_v<std::exception, ExBase>);
-  try {
-    f();
-  } catch (Ex const& ex) {
-    return ex;
-  }
-  throw std::logic_error("nothing was thrown");
-}
+/// A text that is gone when the exception made with it is caught.
 std::string temporary(char const* text) { return std::string(text) + std::string(40, '.'); }
 
-TEST(ExceptionTest, keepTheirArguments) {
+TEST(Exceptions, keepTheirArguments) {
+  static_assert(std::is_base_of_v<std::exception, ExBase>);
   auto const null =
       thrownBy<ExNullPtr>([] { RCExUtil::throwExNullPtr(temporary("Pointer").c_str()); });
-  EXPECT_EQ(null.getTypeName(), temporary("Pointer"));
   EXPECT_THAT(null.what(), HasSubstr(temporary("Pointer")));
 
   auto const cast = thrownBy<ExCastFailed>(
       [] { RCExUtil::throwExCastFailed(temporary("From").c_str(), temporary("To").c_str()); });
-  EXPECT_EQ(cast.getFrom(), temporary("From"));
-  EXPECT_EQ(cast.getTo(), temporary("To"));
   EXPECT_THAT(cast.what(), AllOf(HasSubstr(temporary("From")), HasSubstr(temporary("To"))));
 
   auto const range =
       thrownBy<IteratorEx>([] { throw IteratorEx::ExOutOfRange(temporary("file").c_str(), 4711); });
-  EXPECT_EQ(range.getFile(), temporary("file"));
-  EXPECT_EQ(range.getLine(), 4711);
   EXPECT_THAT(range.what(), AllOf(HasSubstr(temporary("file")), HasSubstr("4711")));
 
   auto const aborted = thrownBy<ExProgramAborted>([] {
     Assertions::throwProgramAborted(temporary("file").c_str(), 171, temporary("broken").c_str());
   });
-  EXPECT_EQ(aborted.getFile(), temporary("file"));
-  EXPECT_EQ(aborted.getLine(), 171);
   EXPECT_EQ(aborted.getMessage(), temporary("broken"));
   EXPECT_THAT(aborted.what(), AllOf(HasSubstr(temporary("file")), HasSubstr("171"),
                                     HasSubstr(temporary("broken"))));

@@ -1,6 +1,6 @@
 #include "allocations.h"
 #include "iteratorSTL.imp.h"
-#include "nullPointee.h"
+#include "thrown.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,9 +18,6 @@ template <class Container> RCStrongPtr<Container> containerOf(int size) {
     container->push_back(i);
   return container;
 }
-template <class Container> RCPvtEngPtr<Engine<Container>> engineOver(int size) {
-  return RCPvtEngPtr<Engine<Container>>(new Engine<Container>(containerOf<Container>(size)));
-}
 /// Reads the position: `begin 0`, `1`, `end` ...
 std::string place(Iterator<int> const& it) {
   return (it.atBegin() ? "begin " : "") + (it.atEnd() ? "end" : std::to_string(it.item()));
@@ -33,21 +30,17 @@ std::string placeOf(int index, int size) {
 /// Expects that a move is refused, with that line, and leaves the iterator where it stands.
 template <class Move> void expectOutOfRange(Iterator<int>& it, int line, Move move) {
   std::string const before = place(it);
-  try {
-    move();
-    ADD_FAILURE() << "left the range";
-  } catch (IteratorEx::ExOutOfRange const& ex) {
-    EXPECT_EQ(ex.getFile(), std::string(".\\base/containers/src/iteratorSTL.imp.h"));
-    EXPECT_EQ(ex.getLine(), line);
-  }
+  auto const ex = thrownBy<IteratorEx::ExOutOfRange>(move);
+  EXPECT_EQ(ex.getFile(), ".\\base/containers/src/iteratorSTL.imp.h");
+  EXPECT_EQ(ex.getLine(), line);
   EXPECT_EQ(place(it), before);
 }
 
-template <class Container> class IteratorSTLTest : public NoLeaks {};
+template <class Container> class ContainerEngine : public NoLeaks {};
 using Containers = testing::Types<List<int>, Vector<int>>;
-TYPED_TEST_SUITE(IteratorSTLTest, Containers);
+TYPED_TEST_SUITE(ContainerEngine, Containers);
 
-TYPED_TEST(IteratorSTLTest, stepsThroughEveryPosition) {
+TYPED_TEST(ContainerEngine, stepsThroughEveryPosition) {
   for (int const size : {0, 1, 3}) {
     SCOPED_TRACE(size);
     Iterator<int> it = makeIterator(containerOf<TypeParam>(size));
@@ -62,14 +55,8 @@ TYPED_TEST(IteratorSTLTest, stepsThroughEveryPosition) {
       EXPECT_EQ(place(it.previous()), placeOf(i, size));
     expectOutOfRange(it, 159, [&] { it.previous(); });
     expectOutOfRange(it, 159, [&] { it--; });
-  }
-}
 
-TYPED_TEST(IteratorSTLTest, jumpsToEitherSide) {
-  for (int const size : {0, 1, 3}) {
-    SCOPED_TRACE(size);
     std::string const last = placeOf(std::max(size - 1, 0), size);
-    Iterator<int> it = makeIterator(containerOf<TypeParam>(size));
     EXPECT_EQ(place(it.last()), last);
     EXPECT_EQ(place(it.first()), placeOf(0, size));
     EXPECT_EQ(place(it.end()), placeOf(size, size));
@@ -78,7 +65,7 @@ TYPED_TEST(IteratorSTLTest, jumpsToEitherSide) {
   }
 }
 
-TYPED_TEST(IteratorSTLTest, clonesShareTheContainer) {
+TYPED_TEST(ContainerEngine, sharesItsContainerWithItsClones) {
   RCStrongPtr<TypeParam> const container = containerOf<TypeParam>(2);
   {
     RCPvtEngPtr<Engine<TypeParam>> const engine(new Engine<TypeParam>(container));
@@ -96,32 +83,27 @@ TYPED_TEST(IteratorSTLTest, clonesShareTheContainer) {
   EXPECT_EQ(container.getStrongCount(), 1);
 }
 
-TYPED_TEST(IteratorSTLTest, equalOnTheSameElementOrAtBothEnds) {
-  auto const engine = engineOver<TypeParam>(2);
-  auto const other = engineOver<TypeParam>(2);
-  auto const empty = engineOver<TypeParam>(0);
-  RCPvtEngPtr<Engine<TypeParam>> const clone(engine->clone());
-  auto const equal = [&](auto const& left, auto const& right) {
-    EXPECT_EQ(left->isEqual(*right), right->isEqual(*left));
-    return left->isEqual(*right);
+TYPED_TEST(ContainerEngine, equalsThoseOnTheSameElementAndAllAtAnEnd) {
+  using Ptr = RCPvtEngPtr<Engine<TypeParam>>;
+  Ptr const one(new Engine<TypeParam>(containerOf<TypeParam>(2)));
+  Ptr const other(new Engine<TypeParam>(containerOf<TypeParam>(2)));
+  Ptr const empty(new Engine<TypeParam>(containerOf<TypeParam>(0)));
+  auto const at = [](int position, Ptr const& engine) {
+    Ptr const moved(engine->clone());
+    for (int i = 0; i < position; ++i)
+      moved->next();
+    return moved;
   };
-  EXPECT_TRUE(equal(engine, engine));
-  EXPECT_TRUE(equal(engine, clone));
-  EXPECT_FALSE(equal(engine, other)) << "equal values are not the same element";
-  EXPECT_FALSE(equal(engine, empty));
-  clone->next();
-  EXPECT_FALSE(equal(engine, clone));
-  engine->end();
-  EXPECT_FALSE(equal(engine, clone));
-  EXPECT_FALSE(equal(engine, other)) << "one's end is not the other's first element";
-  EXPECT_TRUE(equal(engine, empty));
-  clone->end();
-  other->end();
-  EXPECT_TRUE(equal(engine, clone));
-  EXPECT_TRUE(equal(engine, other));
+  // Engines of the same number are equal.
+  std::pair<int, Ptr> const engines[] = {{1, one},          {1, at(0, one)},   {2, at(1, one)},
+                                         {3, other},        {4, at(1, other)}, {5, at(2, one)},
+                                         {5, at(2, other)}, {5, empty}};
+  for (auto const& [left, engine] : engines)
+    for (auto const& [right, otherEngine] : engines)
+      EXPECT_EQ(engine->isEqual(*otherEngine), left == right) << left << ", " << right;
 }
 
-TYPED_TEST(IteratorSTLTest, isNotComparedWithAnotherKindOfEngine) {
+TYPED_TEST(ContainerEngine, isNotComparedWithAnotherKind) {
   struct OtherAccessor : IteratorAccessorPassthrough {};
   auto const container = containerOf<TypeParam>(1);
   RCPvtEngPtr<IteratorImp<int>> const engine(new Engine<TypeParam>(container));
@@ -129,18 +111,9 @@ TYPED_TEST(IteratorSTLTest, isNotComparedWithAnotherKindOfEngine) {
   EXPECT_THROW(engine->isEqual(*other), std::bad_cast);
 }
 
-TYPED_TEST(IteratorSTLTest, needsAContainer) {
+TYPED_TEST(ContainerEngine, needsAContainer) {
   EXPECT_EQ(nullPointeeOf([] { makeIterator(RCStrongPtr<TypeParam>()); }),
             typeName(typeid(TypeParam*)));
-}
-
-TYPED_TEST(IteratorSTLTest, losesNothingWhenAnAllocationFails) {
-  // At least the container, its elements, the count block, the engine and its clone.
-  EXPECT_GE(forEachFailingAllocation([] {
-              Iterator<int> it = makeIterator(containerOf<TypeParam>(2));
-              it++;
-            }),
-            5);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "rcShdPtr.h"
 #include "allocations.h"
+#include "thrown.h"
 
 #include <sstream>
 #include <vector>
@@ -14,22 +15,9 @@ protected:
 class Circle : public Shape {};
 class Square : public Shape {};
 
-class RCShdPtrTest : public NoLeaks {
-protected:
-  template <class T> static std::string dumped(RCShdPtr<T> const& pointer) {
-    std::ostringstream os;
-    os << std::hex << std::showbase;
-    pointer.dump(os);
-    return os.str();
-  }
-  static std::string address(void const* pointer) {
-    std::ostringstream os;
-    os << pointer;
-    return os.str();
-  }
-};
+class SharedPointer : public NoLeaks {};
 
-TEST_F(RCShdPtrTest, movingLeavesTheCountAndTheSourceNull) {
+TEST_F(SharedPointer, leavesTheCountAndNullWhenMoved) {
   RCShdPtr<Shape> source(new Shape);
   RCShdPtr<Shape> target(std::move(source));
   EXPECT_FALSE(source);
@@ -45,18 +33,23 @@ TEST_F(RCShdPtrTest, movingLeavesTheCountAndTheSourceNull) {
   EXPECT_EQ(target->getRefCount(), 1);
 }
 
-TEST_F(RCShdPtrTest, convertsToBaseAndToConst) {
+TEST_F(SharedPointer, convertsToBaseAndToConst) {
   RCShdPtr<Circle> const circle(new Circle);
   RCShdPtr<Shape> const shape = circle;
   RCShdPtr<Shape const> const constant = shape;
   EXPECT_EQ(constant, circle);
   EXPECT_EQ(circle->getRefCount(), 3);
 
+  RCShdPtr<Circle> sender = circle;
+  RCShdPtr<Shape> const receiver = std::move(sender);
+  EXPECT_FALSE(sender);
+  EXPECT_EQ(receiver->getRefCount(), 4);
+
   static_assert(!std::is_convertible_v<RCShdPtr<Shape>, RCShdPtr<Circle>>);
   static_assert(!std::is_convertible_v<RCShdPtr<Shape const>, RCShdPtr<Shape>>);
 }
 
-TEST_F(RCShdPtrTest, dynamicConversions) {
+TEST_F(SharedPointer, convertsToADerivedClassOrSaysWhyNot) {
   RCShdPtr<Shape const> const shape(new Circle);
 
   RCShdPtr<Circle const> const tested = shape.dynamicCast<Circle const>();
@@ -69,25 +62,27 @@ TEST_F(RCShdPtrTest, dynamicConversions) {
   EXPECT_FALSE(RCShdPtr<Shape>().checkedCast<Circle>());
 
   EXPECT_FALSE(shape.dynamicCast<Square const>());
-  try {
-    shape.checkedCast<Square const>();
-    ADD_FAILURE() << "a circle was taken for a square";
-  } catch (ExCastFailed const& ex) {
-    EXPECT_EQ(ex.getFrom(), "Qv::(anonymous namespace)::Circle");
-    EXPECT_EQ(ex.getTo(), "Qv::(anonymous namespace)::Square");
-  }
+  auto const ex = thrownBy<ExCastFailed>([&] { shape.checkedCast<Square const>(); });
+  EXPECT_EQ(ex.getFrom(), "Qv::(anonymous namespace)::Circle");
+  EXPECT_EQ(ex.getTo(), "Qv::(anonymous namespace)::Square");
   EXPECT_EQ(shape->getRefCount(), 3);
 }
 
-TEST_F(RCShdPtrTest, dumpShowsTypesCountAndAddresses) {
+TEST_F(SharedPointer, dumpsTypesCountAndAddresses) {
   std::vector<RCShdPtr<Shape const>> const pointers(17, RCShdPtr<Shape const>(new Circle));
-  std::string const where = address(pointers[0].get());
-  EXPECT_EQ(dumped(pointers[0]), "Pointee type = Qv::(anonymous namespace)::Circle, "
-                                 "T type = Qv::(anonymous namespace)::Shape, ref: 17, pointer:" +
-                                     where + ", RCBase pointer: " + where);
-  EXPECT_EQ(dumped(RCShdPtr<Shape const>()),
-            "Pointee type = null, T type = Qv::(anonymous namespace)::Shape, ref: 0, pointer:" +
-                address(nullptr) + ", RCBase pointer: " + address(nullptr));
+  std::ostringstream text;
+  text << std::hex << std::showbase;
+  pointers[0].dump(text);
+  RCShdPtr<Shape const>().dump(text);
+  void const* const where = pointers[0].get();
+  void const* const nowhere = nullptr;
+  std::ostringstream expected;
+  expected << "Pointee type = Qv::(anonymous namespace)::Circle, T type = Qv::(anonymous "
+              "namespace)::Shape, ref: 17, pointer:"
+           << where << ", RCBase pointer: " << where
+           << "Pointee type = null, T type = Qv::(anonymous namespace)::Shape, ref: 0, pointer:"
+           << nowhere << ", RCBase pointer: " << nowhere;
+  EXPECT_EQ(text.str(), expected.str());
 }
 
 } // namespace

@@ -14,23 +14,19 @@
 namespace Qv {
 
 /// Has the linked module register its schemes.
-inline void startModule() {
+// NOLINTNEXTLINE(misc-definitions-in-headers): a fuzzer is one source file, which includes this.
+extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
   HostResources::getInstance().setDirectory(RESOURCE_DIR);
   HostPackageManager& manager = HostPackageManager::getInstance();
   for (InPackageInit* const package : manager.getPackages())
     manager.initialize(*package);
+  return 0;
 }
 
 /// Ends the program, with the input that led here, when a property does not hold.
 inline void require(bool property) {
   if (!property)
     std::abort();
-}
-
-inline std::string nameOf(BrBrowsable& item) {
-  LiString name;
-  item.get(int(BrBrowsable::NAME), &name);
-  return name;
 }
 
 /// Asks an item and all below it whatever a browser asks. @returns how many children it has.
@@ -52,13 +48,13 @@ inline int browse(BrServer& server, RCShdPtr<BrBrowsable> const& item) {
   return count;
 }
 
-inline int browseTree(char const* scheme) {
-  BrServer& server = HostBrRegistry::getInstance().getServer(scheme);
-  LiString message;
-  return browse(server, server.getNode("", message)->getBrowsable());
-}
-
-inline void clearRegistries() {
+/// Browses both schemes, which must have that many categories and views, and empties them.
+inline void browseAll(int categories, int views) {
+  for (auto const& [scheme, count] : {std::pair("tools", categories), std::pair("views", views)}) {
+    BrServer& server = HostBrRegistry::getInstance().getServer(scheme);
+    LiString message;
+    require(browse(server, server.getNode("", message)->getBrowsable()) == count);
+  }
   HostToolRegistry::getInstance().clear();
   HostViewFactory::getInstance().clear();
   HostTtServer::getInstance().clear();

@@ -10,11 +10,6 @@
 
 namespace Qv {
 
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-  startModule();
-  return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   static int const file = memfd_create("catalogue", 0);
   require(ftruncate(file, 0) == 0 && pwrite(file, data, size, 0) == ssize_t(size));
@@ -28,9 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
   } catch (HostError const&) {
     // Nothing may be registered then.
   }
-  require(browseTree("tools") == tools);
-  require(browseTree("views") == views);
-  clearRegistries();
+  browseAll(tools, views);
   return 0;
 }
 

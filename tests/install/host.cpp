@@ -1,4 +1,4 @@
-// Loads the installed module and lists the tool scheme. Its exit status says what was wrong.
+// Loads the installed module and lists a category. Its exit status says what was wrong.
 
 #include "hostBrRegistry.h"
 #include "hostModule.h"
@@ -8,20 +8,7 @@
 
 #include <iostream>
 
-namespace {
-
 using namespace Qv;
-
-/// The paths of all items below `item`, one a line.
-std::string paths(BrBrowsable& item) {
-  std::string result;
-  auto children = item.getChildren(BrBrowsable::FindFilter(0))->getNextChildSequence();
-  for (; !children.atEnd(); children.next())
-    result += children.item()->getPath() + "\n" + paths(*children.item());
-  return result;
-}
-
-} // namespace
 
 int main() {
   HostResources::getInstance().setDirectory(RESOURCE_DIR);
@@ -33,10 +20,14 @@ int main() {
   HostModule const module(MODULE_FILE);
   HostBrRegistry& browser = HostBrRegistry::getInstance();
   LiString message;
-  auto const root = browser.getServer(PiBrowserSchemes::PluginToolScheme).getNode("", message);
-  std::string const listed = paths(*root->getBrowsable());
+  auto const node =
+      browser.getServer(PiBrowserSchemes::PluginToolScheme).getNode("Colour", message);
+  auto const query = node->getBrowsable()->getChildren(BrBrowsable::FindFilter(0));
+  std::string listed;
+  for (auto children = query->getNextChildSequence(); !children.atEnd(); children.next())
+    listed += children.item()->getPath() + "\n";
   std::cout << listed;
-  if (listed != "Colour\nColour/invert\n")
+  if (listed != "Colour/invert\n")
     return 1;
   return browser.getIcon("Tool") ? 0 : 2;
 }

@@ -12,21 +12,22 @@
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
 #include "hostViewFactory.h"
-#include "nullPointee.h"
 #include "pbrToolBrowsable.h"
 #include "pbrToolServer.h"
 #include "pbrViewBrowsable.h"
 #include "pbrViewServer.h"
 #include "pluginBrowserQvmoduleInit.h"
+#include "thrown.h"
 
 #include <gmock/gmock.h>
 
 namespace Qv {
 
-/// Starts and ends with empty registries and a journal that is not kept, and loses no allocation.
+/// A host without tools, views and tooltips, with no package initialised and no journal kept; the
+/// test may lose no allocation. All of these are reset after each test. Before the first one, each
+/// is filled once, since what is cleared keeps the storage of its elements.
 class ModuleTest : public NoLeaks {
 protected:
-  /// Fills every registry once: what is cleared keeps the storage of its elements.
   static void SetUpTestSuite() {
     HostResources::getInstance().setDirectory(RESOURCE_DIR);
     tools_.addCategory("x");
@@ -35,11 +36,10 @@ protected:
     tooltips_.setTooltip("x", "x");
     journal_.start();
     initializePackage();
-    clear();
+    reset();
   }
 
-  ModuleTest() { HostResources::getInstance().setDirectory(RESOURCE_DIR); }
-  ~ModuleTest() override { clear(); }
+  ~ModuleTest() override { reset(); }
 
   /// Has the module register all that it contributes, until the test ends.
   static void initializePackage() {
@@ -62,12 +62,11 @@ protected:
   PbrViewServer viewServer_;
 
 private:
-  static void clear() {
+  static void reset() {
     journal_.start();
     journal_.stop();
     HostPackageManager::getInstance().uninitializeAll();
     HostBrRegistry::getInstance().clear();
-    HostResources::getInstance().setDirectory("");
     tools_.clear();
     views_.clear();
     tooltips_.clear();
@@ -76,21 +75,6 @@ private:
 
 constexpr BrBrowsable::FindFilter AllChildren{0};
 constexpr BrBrowsable::FindFilter ItemsOnly{2};
-constexpr BrBrowsable::ChildSearchType AnyChildren{0};
-constexpr BrBrowsable::ChildSearchType ContainerChildren{1};
-constexpr BrBrowsable::ChildSearchOption NoOption{0};
-
-/// Expects that `f` aborts there, without a message.
-template <class F> void expectAbort(F f, std::string const& file, int line) {
-  try {
-    f();
-    ADD_FAILURE() << "nothing was thrown";
-  } catch (ExProgramAborted const& error) {
-    EXPECT_EQ(error.getFile(), "modules\\pluginBrowser\\src\\" + file);
-    EXPECT_EQ(error.getLine(), line);
-    EXPECT_EQ(error.getMessage(), nullptr);
-  }
-}
 
 /// All elements of a sequence.
 template <class T> std::vector<T> collect(Iterator<T> elements) {
@@ -100,12 +84,32 @@ template <class T> std::vector<T> collect(Iterator<T> elements) {
   return result;
 }
 
+using Texts = std::vector<std::string>;
+
 /// The paths of the items of a sequence.
-inline std::vector<std::string> paths(Iterator<RCShdPtr<BrBrowsable>> items) {
-  std::vector<std::string> result;
+inline Texts paths(Iterator<RCShdPtr<BrBrowsable>> items) {
+  Texts result;
   for (RCShdPtr<BrBrowsable> const& item : collect(items))
     result.push_back(item->getPath());
   return result;
+}
+
+/// The paths of the children that an item lists first.
+inline Texts childPaths(BrBrowsable& item, int filter) {
+  RCShdPtr<BrChildrenQuery> const query = item.getChildren(BrBrowsable::FindFilter(filter));
+  EXPECT_EQ(query->getParent(), &item);
+  return paths(query->getNextChildSequence());
+}
+
+/// Expects what an item answers when it is asked for children, and for children that are
+/// containers, with whatever option.
+inline void expectChildren(BrBrowsable const& item, bool any, bool containers) {
+  for (int const option : {0, 1, 2})
+    for (int const type : {0, 1, 2})
+      EXPECT_EQ(item.hasChildren(BrBrowsable::ChildSearchType(type),
+                                 BrBrowsable::ChildSearchOption(option)),
+                type == 1 ? containers : any)
+          << "type " << type << ", option " << option;
 }
 
 /// A string attribute of an item.
@@ -129,8 +133,8 @@ inline void expectThumbnail(BrBrowsable& item, LiString const& key) {
 }
 
 /// The calls that the journal holds, as "operation(key)".
-inline std::vector<std::string> calls() {
-  std::vector<std::string> result;
+inline Texts calls() {
+  Texts result;
   for (HostJournal::Entry const& entry : HostJournal::getInstance().getEntries())
     result.push_back(entry.operation + "(" + entry.key + ")");
   return result;

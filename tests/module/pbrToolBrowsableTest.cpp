@@ -1,7 +1,5 @@
 #include "moduleTest.h"
 
-#include "hostError.h"
-
 namespace Qv {
 
 namespace {
@@ -12,7 +10,7 @@ using testing::IsEmpty;
 class ToolBrowsable : public ModuleTest {
 protected:
   ToolBrowsable() {
-    for (char const* category : {"Colour", "Key", "Key", "Empty", "Grade"})
+    for (std::string const& category : categories_)
       tools_.addCategory(category);
     tools_.addTool(
         {.name = "invert", .category = "Colour", .infoTexts = {"Invert", "Inverts", ""}});
@@ -23,6 +21,8 @@ protected:
     tools_.addTool({.name = "lift", .category = "Grade"});
     tools_.addTool({.name = "secret", .category = "Empty", .internal = true});
   }
+
+  Texts const categories_ = {"Colour", "Key", "Key", "Empty", "Grade"};
 };
 
 /// What items of the same look have in common.
@@ -46,11 +46,10 @@ TEST_F(ToolBrowsable, isWhatItsPathSays) {
     char const* path;
     Kind const& kind;
     char const* name;
-    std::vector<std::string> children;
+    Texts children;
   };
   for (Case const& item :
-       {Case{"", folder, "Tools", {"Colour", "Key", "Key", "Empty", "Grade"}},
-        Case{"//", folder, "Tools", {"Colour", "Key", "Key", "Empty", "Grade"}},
+       {Case{"", folder, "Tools", categories_}, Case{"//", folder, "Tools", categories_},
         Case{"Colour", category, "Colour", {"invert", "Grade", "blur"}},
         Case{"Empty", category, "Empty", {}}, Case{"nosuch", category, "nosuch", {}},
         Case{"/Grade/", superCategory, "Grade", {"lift"}},
@@ -67,33 +66,12 @@ TEST_F(ToolBrowsable, isWhatItsPathSays) {
     EXPECT_EQ(browsable->getToolName(), item.name);
     EXPECT_EQ(browsable->isSuperTool(), item.kind.superTool);
     EXPECT_EQ(browsable->isAContainer(), item.kind.container);
-    EXPECT_EQ(browsable->hasChildren(AnyChildren, NoOption), item.kind.container);
-    EXPECT_EQ(browsable->hasChildren(ContainerChildren, NoOption), &item.kind == &folder);
     EXPECT_EQ(browsable->isPicklistable(), item.kind.picklistable);
     EXPECT_EQ(collect(browsable->getChildren()), item.children);
     EXPECT_EQ(attribute(*browsable, BrBrowsable::NAME), item.name);
     EXPECT_EQ(attribute(*browsable, BrBrowsable::BROWSABLE_TYPE), item.kind.typeString);
+    expectChildren(*browsable, item.kind.container, &item.kind == &folder);
     expectThumbnail(*browsable, LiString(item.kind.thumbnail));
-  }
-}
-
-TEST_F(ToolBrowsable, refusesLongerPaths) {
-  for (char const* path : {"a/b/c", "Colour/invert/x/y"})
-    expectAbort([&] { tool(path); }, "pbrToolBrowsable", 171);
-}
-
-TEST_F(ToolBrowsable, asksTheRegistryOnceAndNeverAgain) {
-  std::map<std::string, std::vector<std::string>> const callsByPath = {
-      {"", {"PiToolRegistry::getCategories()"}},
-      {"Key", {"PiToolRegistry::getTools(Key)", "PiToolRegistry::isSuperTool(Key)"}},
-      {"Key/x", {"PiToolRegistry::isSuperTool(x)"}}};
-  for (auto const& [path, expected] : callsByPath) {
-    journal_.start();
-    RCShdPtr<PbrToolBrowsable> const browsable = tool(path);
-    browsable->getChildren();
-    browsable->isPicklistable();
-    browsable->hasChildren(AnyChildren, NoOption);
-    EXPECT_EQ(calls(), expected);
   }
 }
 
@@ -101,16 +79,9 @@ TEST_F(ToolBrowsable, keepsWhatItLearnt) {
   RCShdPtr<PbrToolBrowsable> const category = tool("Grade");
   tools_.clear();
   EXPECT_TRUE(category->isSuperTool());
+  category->getChildren().item() = "changed";
   EXPECT_THAT(collect(category->getChildren()), ElementsAre("lift"));
   EXPECT_THAT(collect(tool("Grade")->getChildren()), IsEmpty());
-}
-
-TEST_F(ToolBrowsable, givesItsChildNamesAfreshAtEveryCall) {
-  RCShdPtr<PbrToolBrowsable> const folder = tool("");
-  Iterator<std::string> names = folder->getChildren();
-  names.item() = "changed";
-  names.end();
-  EXPECT_EQ(folder->getChildren().item(), "Colour");
 }
 
 TEST_F(ToolBrowsable, equalsItemsOfTheSamePath) {
@@ -141,105 +112,78 @@ TEST_F(ToolBrowsable, hasAPrototype) {
   EXPECT_THAT(collect(prototype->getChildren()), IsEmpty());
 }
 
-/// An item that says itself whether it is a container.
-class OwnContainer final : public PbrToolBrowsable {
-public:
-  OwnContainer(BrServer* server, std::string const& path, bool container)
-      : PbrToolBrowsable(server, path), container_(container) {}
-
-  bool isAContainer() const override { return container_; }
-  void setContainer(bool container) { container_ = container; }
-
-private:
-  bool container_;
-};
-
-TEST_F(ToolBrowsable, asksItselfWhetherItIsAContainer) {
-  for (bool const container : {true, false}) {
-    RCShdPtr<OwnContainer> const item(new OwnContainer(&toolServer_, "Colour", container));
-    EXPECT_EQ(item->hasChildren(AnyChildren, NoOption), container);
-    EXPECT_EQ(item->hasChildren(BrBrowsable::ChildSearchType(2), NoOption), container);
-    EXPECT_EQ(item->isPicklistable(), !container);
-    for (int const filter : {0, 1, 3})
-      EXPECT_EQ(
-          paths(item->getChildren(BrBrowsable::FindFilter(filter))->getNextChildSequence()).empty(),
-          !container);
-  }
-  RCShdPtr<PbrToolBrowsable> const folder = tool("");
-  for (int const filter : {1, 3})
-    EXPECT_FALSE(paths(folder->getChildren(BrBrowsable::FindFilter(filter))->getNextChildSequence())
-                     .empty());
-
-  RCShdPtr<OwnContainer> const item(new OwnContainer(&toolServer_, "Colour", false));
-  RCShdPtr<BrChildrenQuery> const query = item->getChildren(AllChildren);
-  query->getNextChildSequence();
-  item->setContainer(true);
-  EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty()) << "it has been asked";
-  query->reset();
-  EXPECT_EQ(paths(query->getNextChildSequence()).size(), 3U);
-}
-
-TEST_F(ToolBrowsable, asksTheRegistriesInOrder) {
+TEST_F(ToolBrowsable, asksTheRegistriesOnceAndInOrder) {
   using Entry = HostJournal::Entry;
   journal_.start();
+  tool("")->isPicklistable();
   tool("Colour")->getTooltip(0);
+  tool("Key/x")->getChildren();
   EXPECT_THAT(journal_.getEntries(),
-              ElementsAre(Entry{"PiToolRegistry::getTools", "Colour", "true"},
+              ElementsAre(Entry{"PiToolRegistry::getCategories", "", ""},
+                          Entry{"PiToolRegistry::getTools", "Colour", "true"},
                           Entry{"PiToolRegistry::isSuperTool", "Colour", ""},
                           Entry{"PiToolRegistry::findTool", "Colour", "false"},
-                          Entry{"TtServer::lookupTooltip", "Colour", ""}));
+                          Entry{"TtServer::lookupTooltip", "Colour", ""},
+                          Entry{"PiToolRegistry::isSuperTool", "x", ""}));
 }
 
 class ToolChildrenQuery : public ToolBrowsable {};
+
+/// An item that says itself whether it is a container.
+struct OwnContainer final : PbrToolBrowsable {
+  explicit OwnContainer(BrServer* server) : PbrToolBrowsable(server, "Colour") {}
+  bool isAContainer() const override { return container; }
+
+  bool container = false;
+};
+
+TEST_F(ToolChildrenQuery, asksTheItemWhetherItIsAContainer) {
+  RCShdPtr<OwnContainer> const item(new OwnContainer(&toolServer_));
+  RCShdPtr<BrChildrenQuery> const query = item->getChildren(AllChildren);
+  for (bool const container : {false, true}) {
+    item->container = container;
+    expectChildren(*item, container, false);
+    EXPECT_EQ(item->isPicklistable(), !container);
+    EXPECT_EQ(childPaths(*item, 0).size(), container ? 3U : 0U);
+    EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty()) << "nothing, or asked before";
+  }
+  query->reset();
+  EXPECT_EQ(paths(query->getNextChildSequence()).size(), 3U);
+}
 
 TEST_F(ToolChildrenQuery, listsTheChildrenOnceInTheOrderOfTheRegistry) {
   RCShdPtr<PbrToolBrowsable> const folder = tool("");
   RCShdPtr<BrChildrenQuery> const query = folder->getChildren(AllChildren);
   Iterator<RCShdPtr<BrBrowsable>> const children = query->getNextChildSequence();
   EXPECT_TRUE(children.atBegin());
-  EXPECT_THAT(paths(children), ElementsAre("Colour", "Key", "Key", "Empty", "Grade"));
+  EXPECT_EQ(paths(children), categories_);
   EXPECT_EQ(children.item()->getServer(), &toolServer_);
   EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
 
   tools_.clear();
   query->reset();
   Iterator<RCShdPtr<BrBrowsable>> const again = query->getNextChildSequence();
-  EXPECT_THAT(paths(again), ElementsAre("Colour", "Key", "Key", "Empty", "Grade"));
+  EXPECT_EQ(paths(again), categories_);
   EXPECT_FALSE(again.item() == children.item());
 }
 
 TEST_F(ToolChildrenQuery, yieldsWhatTheContainerAndTheFilterSay) {
-  using Paths = std::vector<std::string>;
-  Paths const colours = {"/Colour/invert", "/Colour/Grade", "/Colour/blur"};
-  // The children of each item, and those of them that are items.
-  std::map<std::string, std::pair<Paths, Paths>> const childrenByPath = {
-      {"", {{"Colour", "Key", "Key", "Empty", "Grade"}, {}}},
-      {"Empty", {}},
-      {"/Colour/", {colours, colours}},
-      {"Colour/Grade", {}},
-      {"Colour/invert", {}}};
-  for (auto const& [path, expected] : childrenByPath) {
-    SCOPED_TRACE(path);
-    RCShdPtr<PbrToolBrowsable> const browsable = tool(path);
-    EXPECT_EQ(paths(browsable->getChildren(AllChildren)->getNextChildSequence()), expected.first);
-    RCShdPtr<BrChildrenQuery> const query = browsable->getChildren(ItemsOnly);
-    EXPECT_EQ(paths(query->getNextChildSequence()), expected.second);
-    EXPECT_THAT(paths(query->getNextChildSequence()), IsEmpty());
+  Texts const colours = {"/Colour/invert", "/Colour/Grade", "/Colour/blur"};
+  struct Case {
+    char const* path;
+    Texts children;
+    Texts items;
+  };
+  for (Case const& item :
+       {Case{"", categories_, {}}, Case{"/", {"/Colour", "/Key", "/Key", "/Empty", "/Grade"}, {}},
+        Case{"Empty", {}, {}}, Case{"/Colour/", colours, colours}, Case{"Colour/Grade", {}, {}},
+        Case{"Colour/invert", {}, {}}}) {
+    SCOPED_TRACE(item.path);
+    RCShdPtr<PbrToolBrowsable> const browsable = tool(item.path);
+    for (int const filter : {0, 1, 3})
+      EXPECT_EQ(childPaths(*browsable, filter), item.children);
+    EXPECT_EQ(childPaths(*browsable, ItemsOnly), item.items);
   }
-}
-
-TEST_F(ToolChildrenQuery, staysPendingWhenAChildFails) {
-  RCShdPtr<PbrToolBrowsable> const category = tool("Colour");
-  RCShdPtr<BrChildrenQuery> const query = category->getChildren(AllChildren);
-  journal_.start();
-  journal_.failAt(2);
-  EXPECT_THROW(query->getNextChildSequence(), HostError);
-  EXPECT_THAT(calls(), ElementsAre("PiToolRegistry::isSuperTool(invert)",
-                                   "PiToolRegistry::isSuperTool(Grade)",
-                                   "PiToolRegistry::isSuperTool(blur)"));
-  journal_.stop();
-  EXPECT_THAT(paths(query->getNextChildSequence()),
-              ElementsAre("Colour/invert", "Colour/Grade", "Colour/blur"));
 }
 
 } // namespace

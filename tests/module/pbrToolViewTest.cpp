@@ -1,12 +1,9 @@
 #include "moduleTest.h"
 
-#include "hostImage.h"
+#include "hostError.h"
 #include "pbrToolView.h"
-#include "refusal.h"
 #include "snSelection.h"
-#include "temporaryDirectory.h"
 #include "uiColorRegistry.h"
-#include "uiResTable.h"
 
 namespace Qv {
 
@@ -15,7 +12,6 @@ namespace {
 using testing::ElementsAre;
 
 using Browsable = RCShdPtr<BrBrowsable>;
-using Texts = std::vector<std::string>;
 
 Texts const none = {"", "", "", ""};
 Texts const full = {"Full", "Has all the texts", "Core", "Active"};
@@ -53,16 +49,6 @@ protected:
   }
   static Texts values(PbrToolView const& detail) { return texts(detail, 1); }
 };
-
-TEST_F(ToolView, understandsToolsAndSuperTools) {
-  PbrToolView detail;
-  for (Browsable const& item : {Browsable(tool("Grade")), Browsable(tool("x/full")),
-                                Browsable(tool("x/Grade")), Browsable(tool("nosuch/none"))})
-    EXPECT_TRUE(detail.understands(item)) << item->getPath();
-  for (Browsable const& item : {Browsable(), Browsable(view("full")), Browsable(tool("")),
-                                Browsable(tool("x")), Browsable(tool("full"))})
-    EXPECT_FALSE(detail.understands(item)) << (item ? item->getPath() : "null");
-}
 
 /// What building asks of the host, in order.
 Texts const building = {
@@ -118,25 +104,27 @@ TEST_F(ToolView, showsEachItemInPlaceOfTheLast) {
   auto const icon = split->getChildren().at(0).checkedCast<UiPane>();
   struct Case {
     Browsable item;
+    bool understood;
     Texts values;
     char const* image;
   };
   for (Case const& item :
-       {Case{tool("x/nosuch"), none, "toolThumbnail.tif"},
-        Case{tool("/x/full"), full, "toolThumbnail.tif"},
-        Case{tool("x/old"), old, "toolThumbnail.tif"},
-        Case{tool("Grade"), grade, "superToolThumbnail.tif"},
-        Case{view("full"), none, "viewThumbnail.tif"},
-        Case{tool("full"), full, "folderThumbnail.tif"}, Case{Browsable(), none, ""}}) {
+       {Case{tool("x/nosuch"), true, none, "toolThumbnail.tif"},
+        Case{tool("/x/full"), true, full, "toolThumbnail.tif"},
+        Case{tool("x/old"), true, old, "toolThumbnail.tif"},
+        Case{tool("x/Grade"), true, grade, "superToolThumbnail.tif"},
+        Case{tool("Grade"), true, grade, "superToolThumbnail.tif"},
+        Case{tool(""), false, none, "folderThumbnail.tif"},
+        Case{tool("full"), false, full, "folderThumbnail.tif"},
+        Case{view("full"), false, none, "viewThumbnail.tif"}, Case{Browsable(), false, none, ""}}) {
     SCOPED_TRACE(item.item ? item.item->getPath() : "null");
+    EXPECT_EQ(detail.understands(item.item), item.understood);
     detail.setContent(item.item, noSelection);
     EXPECT_EQ(values(detail), item.values);
     EXPECT_EQ(split->getOpenPane(), icon);
     auto const image = icon->getImage().checkedCast<HostImage>();
     EXPECT_EQ(image ? image->getName() : "", item.image);
   }
-  EXPECT_FALSE(split->openPane(RCShdPtr<UiPane>(new UiPane("foreign"))));
-  EXPECT_EQ(split->getOpenPane(), icon);
   Browsable const item = tool("x/full");
   journal_.start();
   detail.setContent(item, noSelection);
@@ -146,24 +134,12 @@ TEST_F(ToolView, showsEachItemInPlaceOfTheLast) {
                                    "BrRegistry::getThumbnail(toolThumbnail)"));
   detail.externalClose();
   EXPECT_EQ(values(detail), full);
-  tools_.clear();
-  detail.setContent(item, noSelection);
-  EXPECT_EQ(values(detail), none);
-}
 
-TEST_F(ToolView, keepsTheFieldsWrittenBeforeAFailure) {
-  PbrToolView detail;
-  build(detail);
-  Browsable const before = tool("x/old");
-  Browsable const after = tool("x/full");
-  for (std::size_t const failing : {0U, 1U, 2U}) {
-    detail.setContent(before, noSelection);
-    journal_.start();
-    journal_.failAt(failing);
-    EXPECT_THROW(detail.setContent(after, noSelection), HostError);
-    journal_.stop();
-    EXPECT_EQ(values(detail), failing == 0 ? old : full);
-  }
+  tools_.clear();
+  journal_.start();
+  journal_.failAt(1);
+  EXPECT_THROW(detail.setContent(item, noSelection), HostError);
+  EXPECT_EQ(values(detail), none) << "the fields are written before a pane is opened";
 }
 
 TEST_F(ToolView, reportsWhatHasNotBeenBuilt) {
@@ -200,59 +176,6 @@ TEST_F(ToolView, isClonedWithoutWidgets) {
   EXPECT_EQ(nullPointeeOf([&] { clone.setContent(Browsable(), noSelection); }), "Qv::UiLabel*");
   build(clone);
   EXPECT_EQ(values(clone), none);
-}
-
-class ToolViewPage : public ToolView, protected TemporaryDirectory {};
-
-TEST_F(ToolViewPage, isRefusedWithTheReason) {
-  HostResources::getInstance().setDirectory(directory_);
-  auto const refusal = [] { return refusalOf([] { PbrToolView().buildUi(noSelection); }); };
-  EXPECT_THAT(refusal(), testing::HasSubstr("in \"" + directory_.string() + "\""));
-  auto const in = [](std::string const& text) { return "<resources>" + text + "</resources>"; };
-  for (auto const& [text, reason] : std::map<std::string, std::string>{
-           {"<resources>", "it is no XML"},
-           {"<page/>", "its root is <page> instead of <resources>"},
-           {"<resources/><page/>", "there is more than resources in it"},
-           {"<resources name='x'/>", "there is more than resources in it"},
-           {in(""), "describes no page \"InfoCt\""},
-           {in("<label name='InfoCt'/>"), "describes \"InfoCt\" as a label"},
-           {in("<page name='InfoCt'/>"), "no label \"FieldTitle0\""},
-           {in("<page name='InfoCt'/>text"), "there is text outside of its resources"},
-           {in("<page/>"), "a <page> has no name"},
-           {in("<page name='x'/><label name='x'/>"), "\"x\" is described twice"},
-           {in("<pane name='x'/>"), "\"x\" is a <pane>, which is no kind of resource"},
-           {in("<page name='x'>text</page>"), "\"x\" holds something"},
-           {in("<page name='x' depth='1'/>"), "\"x\" has an unknown attribute depth"},
-           {in("<page name='x' text='y'/>"), "\"x\" has an unknown attribute text"},
-           {in("<page name='x' width='1' width='1'/>"), "\"x\" has the attribute width twice"},
-           {in("<page name='x' width='1px'/>"), "\"x\" has the width \"1px\", which is no number"},
-           {in("<page name='x' width=''/>"), "\"x\" has the width \"\", which is no number"},
-           {in("<page name='x' height='-1'/>"), "\"x\" has the height \"-1\", which is no number"},
-           {in("<page name='x' background='1234567'/>"), "\"1234567\" instead of #rrggbb"},
-           {in("<page name='x' background='#12345'/>"), "\"#12345\" instead of #rrggbb"},
-           {in("<page name='x' background='#12345g'/>"), "\"#12345g\" instead of #rrggbb"}}) {
-    write("bvTool.xml", text);
-    EXPECT_THAT(refusal(), testing::HasSubstr("the resource file \"bvTool.xml\""));
-    EXPECT_THAT(refusal(), testing::HasSubstr(reason));
-  }
-}
-
-TEST_F(ToolViewPage, looksAsDescribed) {
-  HostResources::getInstance().setDirectory(directory_);
-  std::string const look = " width='12' height='34' background='#ff3300'/>";
-  write("bvTool.xml", "<resources><page name='InfoCt'/><label name='x'" + look + "<page name='y'" +
-                          look + "</resources>");
-  UiResTable const table(OsFilePath("bvTool.xml"));
-  RCShdPtr<UiContainer> const nowhere;
-  auto const manager = BvDetailMgr::create(nowhere, "InfoCt", &table);
-  for (RCShdPtr<UiWidget> const& widget :
-       {RCShdPtr<UiWidget>(manager->createAndAddTitleLabel("x", &table)),
-        RCShdPtr<UiWidget>(UiSplitPane::create(nowhere, "y", &table))}) {
-    EXPECT_EQ(widget->getWidth(), 12);
-    EXPECT_EQ(widget->getHeight(), 34);
-    EXPECT_EQ(widget->getColors().at(UiWidget::BackgroundColor),
-              (CoRgbColorTyped<float>{1.0F, 0.2F, 0.0F}));
-  }
 }
 
 } // namespace

@@ -1,7 +1,15 @@
 #include "moduleTest.h"
 
+#include "drCarrier.h"
+#include "fakeEngine.h"
+#include "hostPath.h"
 #include "hostTool.h"
+#include "omUtil.h"
+#include "pbrToolDndHandler.h"
+#include "pbrViewDndHandler.h"
 #include "uiViewFactory.h"
+
+#include <optional>
 
 namespace Qv {
 
@@ -9,36 +17,42 @@ namespace {
 
 using testing::ElementsAre;
 
-using Tools = Vector<RCShdPtr<PiTool const>>;
-using ViewNames = Vector<LiString>;
+using ToolPtr = RCShdPtr<PiTool const>;
+
+/// How many predicates have been destroyed, and how many of them when the registry was asked.
+int destroyedPredicates = 0;
+int destroyedWhenAsked = 0;
 
 /// The registry of this program, which refuses nothing: it gives out the same tools for whatever
-/// category.
+/// category, and cannot tell how many there are.
 class AnyToolRegistry final : public PiToolRegistry {
 public:
-  RCShdPtr<PiTool const> findTool(std::string const& /*name*/, bool /*flag*/) override {
-    return RCShdPtr<PiTool const>();
+  ToolPtr findTool(std::string const& /*name*/, bool /*flag*/) override { return ToolPtr(); }
+  ToolPtr getTool(std::string const& /*name*/) override { return tools.values.at(0); }
+  Iterator<ToolPtr> getTools(PrdPredicate<ToolPtr> const& /*predicate*/, bool /*flag*/) override {
+    destroyedWhenAsked = destroyedPredicates;
+    return iteratorOver(tools);
   }
-  RCShdPtr<PiTool const> getTool(std::string const& /*name*/) override {
-    return RCShdPtr<PiTool const>();
-  }
-  Iterator<RCShdPtr<PiTool const>>
-  getTools(PrdPredicate<RCShdPtr<PiTool const>> const& /*predicate*/, bool /*flag*/) override {
-    return makeIterator(RCStrongPtr<Tools>(new Tools(tools)));
-  }
-  Iterator<std::string> getCategories() override {
-    return makeIterator(RCStrongPtr<Vector<std::string>>(new Vector<std::string>(categories)));
-  }
+  Iterator<std::string> getCategories() override { return iteratorOver(categories); }
   bool isSuperTool(std::string const& /*name*/) override { return false; }
 
-  Vector<std::string> categories;
-  Tools tools;
+  FakeSequence<std::string> categories;
+  FakeSequence<ToolPtr> tools;
 };
 
 AnyToolRegistry toolRegistry;
 
 /// What the factory of this program knows.
-RCStrongPtr<ViewNames> viewNames;
+FakeSequence<LiString> viewNames;
+
+/// The components of the path that was parsed last, in an engine that the host goes on sharing.
+FakeSequence<std::string> components;
+std::optional<Iterator<std::string>> sharedComponents;
+
+int writtenAttributes = 0;
+
+/// The parts that each selection item was made with.
+std::string parts;
 
 } // namespace
 
@@ -46,7 +60,18 @@ RCStrongPtr<ViewNames> viewNames;
 
 PiToolRegistry& PiToolRegistry::getInstance() { return toolRegistry; }
 
-Iterator<LiString> UiViewFactory::getViews() { return makeIterator(viewNames); }
+Iterator<LiString> UiViewFactory::getViews() { return iteratorOver(viewNames); }
+
+Iterator<std::string> OmUtil::parsePath(OsFilePath const& path) {
+  components.values.clear();
+  std::string_view rest(path.getChars());
+  for (auto name = HostPath::takeComponent(rest); !name.empty();
+       name = HostPath::takeComponent(rest))
+    components.values.emplace_back(name);
+  components.cardinality = int(components.values.size());
+  sharedComponents.emplace(iteratorOver(components));
+  return *sharedComponents;
+}
 
 void BrBrowsable::get(int attributeId, long long* value) { *value = attributeId; }
 
@@ -54,57 +79,90 @@ void BrBrowsable::get(int attributeId, LiString* value) {
   *value = "host's " + std::to_string(attributeId);
 }
 
+void BrBrowsable::set(int /*attributeId*/, long long /*value*/) { ++writtenAttributes; }
+
+void BrBrowsable::set(int /*attributeId*/, LiString const& /*value*/) { ++writtenAttributes; }
+
+SnItem::SnItem(RCShdPtr<SnParts> const& given) : parts_(given) { parts += given ? "some " : "no "; }
+
+/// As much of it as the destructor of a predicate needs.
+template <class T> class PrdTerm : public RCBase<LkCounter<int>> {};
+
+template <class T> PrdPredicate<T>::~PrdPredicate() { ++destroyedPredicates; }
+template PrdPredicate<ToolPtr>::~PrdPredicate();
+
 namespace {
 
+/// A host of another kind, which knows these categories, tools and views; it forgets them, and what
+/// it was asked, after each test.
 class OtherHost : public ModuleTest {
 protected:
   OtherHost() {
-    viewNames = RCStrongPtr<ViewNames>(new ViewNames{"viewer", "graph", "a/b", "curves"});
-    toolRegistry.categories = {"x/y", "z", "a/b/c", "", "/x//y/"};
-    toolRegistry.tools =
-        Tools(2, RCShdPtr<PiTool const>(new HostTool({.name = "blur", .category = "z"})));
+    viewNames.values = {"viewer", "graph", "a/b", "curves"};
+    toolRegistry.categories.values = {"x/y", "z", "a/b/c", "", "/x//y/"};
+    toolRegistry.tools.values = {2, ToolPtr(new HostTool({.name = "blur", .category = "z"}))};
   }
   ~OtherHost() override {
-    viewNames = RCStrongPtr<ViewNames>();
+    sharedComponents.reset();
+    components = {};
+    viewNames = {};
     toolRegistry = AnyToolRegistry();
-  }
-
-  /// Expects that the sequence of all children ends in the same failure, as often as it is asked
-  /// for.
-  template <class Failure> static void expectFailures(BrChildrenQuery& query, Failure expect) {
-    for (int round = 0; round < 2; ++round) {
-      long const before = liveAllocations();
-      expect([&] { query.getNextChildSequence(); });
-      EXPECT_EQ(liveAllocations() - before, 0) << "the children before it go";
-    }
+    destroyedPredicates = destroyedWhenAsked = writtenAttributes = 0;
+    parts.clear();
   }
 };
 
+/// Expects that `f` aborts there, without a message.
+template <class F> void expectAbort(F f, std::string const& file, int line) {
+  auto const ex = thrownBy<ExProgramAborted>(f);
+  EXPECT_EQ(ex.getFile(), "modules\\pluginBrowser\\src\\" + file);
+  EXPECT_EQ(ex.getLine(), line);
+  EXPECT_EQ(ex.getMessage(), nullptr);
+}
+
 TEST_F(OtherHost, answersTheAttributesThatItemsDoNot) {
-  std::vector<unsigned int> const ownIds = {BrBrowsable::OWNER, BrBrowsable::LMTIME,
-                                            BrBrowsable::CREATION_TIME};
-  std::vector<std::pair<RCShdPtr<BrBrowsable>, std::vector<unsigned int>>> const items = {
-      {tool(""), {4711}},
-      {tool("x"), {4711}},
-      {tool("x/y"), {4711}},
-      {view(""), {4711, BrBrowsable::BROWSABLE_ROLE}},
-      {view("graph"), {4711, BrBrowsable::BROWSABLE_ROLE}}};
-  for (auto const& [item, others] : items) {
+  using Item = RCShdPtr<BrBrowsable>;
+  for (Item const& item :
+       {Item(tool("")), Item(tool("x")), Item(tool("x/y")), Item(view("")), Item(view("graph"))}) {
     SCOPED_TRACE(item->getSchemeName() + " " + item->getPath());
     std::string const name = attribute(*item, BrBrowsable::NAME);
-    item->set(int(BrBrowsable::NAME), LiString("other"));
-    item->set(int(BrBrowsable::NAME), 7LL);
+    for (int const id : {int(BrBrowsable::NAME), 4711}) {
+      item->set(id, LiString("other"));
+      item->set(id, 7LL);
+    }
+    EXPECT_EQ(writtenAttributes, 0);
     EXPECT_EQ(attribute(*item, BrBrowsable::NAME), name);
     EXPECT_EQ(attribute(*item, BrBrowsable::ROOT_NAME), "Plugin Registry");
-    for (unsigned int const id : ownIds)
+    for (auto const id : {BrBrowsable::OWNER, BrBrowsable::LMTIME, BrBrowsable::CREATION_TIME})
       EXPECT_EQ(attribute(*item, id), BrBrowsable::NotAvailableString);
-    for (unsigned int const id : others)
-      EXPECT_EQ(attribute(*item, id), "host's " + std::to_string(id));
+    EXPECT_EQ(attribute(*item, BrBrowsable::BROWSABLE_ROLE),
+              item->getSchemeName() == "tools" ? "" : "host's 7");
+    EXPECT_EQ(attribute(*item, 4711), "host's 4711");
     long long number = 0;
     item->get(int(BrBrowsable::NAME), &number);
     EXPECT_EQ(number, BrBrowsable::NAME);
   }
-  EXPECT_EQ(attribute(*items[0].first, BrBrowsable::BROWSABLE_ROLE), "");
+}
+
+TEST_F(OtherHost, isAskedForToolsWithAllPredicatesAlive) {
+  tool("z");
+  EXPECT_EQ(destroyedWhenAsked, 0);
+  EXPECT_EQ(destroyedPredicates, 6) << "three, a negation and two conjunctions";
+}
+
+TEST_F(OtherHost, neitherCountsNorClones) {
+  components.clonesToNull = true;
+  EXPECT_EQ(collect(tool("")->getChildren()), toolRegistry.categories.values);
+  EXPECT_THAT(collect(tool("z")->getChildren()), ElementsAre("blur", "blur"));
+  EXPECT_EQ(tool("z")->getToolName(), "z");
+  EXPECT_EQ(view("graph")->getViewName(), "graph");
+}
+
+TEST_F(OtherHost, receivesItemsWithoutParts) {
+  RCShdPtr<DrCarrier> const carrier(new DrCarrier(SnSelection::create()));
+  PbrToolDndHandler().populateSelection(tool("z/blur"), carrier);
+  PbrViewDndHandler().populateSelection(view("graph"), carrier);
+  EXPECT_EQ(parts, "no no ");
 }
 
 TEST_F(OtherHost, endsTheSequenceThatIsStillPending) {
@@ -112,28 +170,23 @@ TEST_F(OtherHost, endsTheSequenceThatIsStillPending) {
   RCShdPtr<PbrViewBrowsable> const viewFolder = view("");
   RCShdPtr<BrChildrenQuery> const tools = toolFolder->getChildren(AllChildren);
   RCShdPtr<BrChildrenQuery> const views = viewFolder->getChildren(BrBrowsable::FindFilter(3));
-  expectFailures(*tools, [](auto f) { expectAbort(f, "pbrToolBrowsable", 171); });
-  expectFailures(*views, [](auto f) { expectAbort(f, "pbrViewBrowsable", 113); });
-  viewNames->at(2) = "b";
+  for (int round = 0; round < 2; ++round) {
+    expectAbort([&] { tools->getNextChildSequence(); }, "pbrToolBrowsable", 171);
+    expectAbort([&] { views->getNextChildSequence(); }, "pbrViewBrowsable", 113);
+  }
+  viewNames.values.at(2) = "b";
   EXPECT_THAT(paths(views->getNextChildSequence()), ElementsAre("viewer", "graph", "b", "curves"));
 
-  toolRegistry.tools.push_back(RCShdPtr<PiTool const>());
-  toolRegistry.categories = {"z"};
+  toolRegistry.tools.values.push_back(ToolPtr());
+  toolRegistry.categories.values = {"z"};
   EXPECT_EQ(nullPointeeOf([&] { tool("z"); }), "Qv::PiTool const*");
-  RCShdPtr<PbrToolBrowsable> const otherFolder = tool("");
-  expectFailures(*otherFolder->getChildren(AllChildren),
-                 [](auto f) { EXPECT_EQ(nullPointeeOf(f), "Qv::PiTool const*"); });
+  EXPECT_EQ(nullPointeeOf([&] { childPaths(*tool(""), 0); }), "Qv::PiTool const*");
 }
 
 TEST_F(OtherHost, namesMoreThanComponentsWhichAreLeftOutWhenItemsAreAskedFor) {
-  RCShdPtr<PbrToolBrowsable> const toolFolder = tool("");
-  EXPECT_THAT(paths(toolFolder->getChildren(ItemsOnly)->getNextChildSequence()),
-              ElementsAre("x/y", "/x//y/"));
-  viewNames = RCStrongPtr<ViewNames>(
-      new ViewNames{"viewer", "a/b", "graph", "", "/", "/x/", "a/b/c", "viewer"});
-  RCShdPtr<PbrViewBrowsable> const viewFolder = view("");
-  EXPECT_THAT(paths(viewFolder->getChildren(ItemsOnly)->getNextChildSequence()),
-              ElementsAre("viewer", "graph", "/x/", "viewer"));
+  EXPECT_THAT(childPaths(*tool(""), ItemsOnly), ElementsAre("x/y", "/x//y/"));
+  viewNames.values = {"viewer", "a/b", "graph", "", "/", "/x/", "a/b/c", "viewer"};
+  EXPECT_THAT(childPaths(*view(""), ItemsOnly), ElementsAre("viewer", "graph", "/x/", "viewer"));
 }
 
 } // namespace

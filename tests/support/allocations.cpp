@@ -13,22 +13,17 @@ constexpr auto Relaxed = std::memory_order_relaxed;
 std::atomic<long> live{0};
 std::atomic<int> untilFailure{0};
 
-constexpr std::align_val_t DefaultAlignment{__STDCPP_DEFAULT_NEW_ALIGNMENT__};
-
-void* allocateOrNull(std::size_t size, std::align_val_t alignment = DefaultAlignment) noexcept {
+void* allocateOrNull(std::size_t size) noexcept {
   // To the byte, so that a sanitizer sees the first one behind the block.
-  auto const step = static_cast<std::size_t>(alignment);
-  void* const block = alignment <= DefaultAlignment
-                          ? std::malloc(std::max<std::size_t>(size, 1))
-                          : std::aligned_alloc(step, (size + step - 1) / step * step);
+  void* const block = std::malloc(std::max<std::size_t>(size, 1));
   if (block)
     live.fetch_add(1, Relaxed);
   return block;
 }
 
-void* allocate(std::size_t size, std::align_val_t alignment = DefaultAlignment) {
+void* allocate(std::size_t size) {
   bool const fails = untilFailure.load(Relaxed) > 0 && untilFailure.fetch_sub(1, Relaxed) == 1;
-  void* const block = fails ? nullptr : allocateOrNull(size, alignment);
+  void* const block = fails ? nullptr : allocateOrNull(size);
   if (!block)
     throw std::bad_alloc();
   return block;
@@ -50,34 +45,20 @@ bool FailingAllocation::wasReached() const noexcept { return untilFailure.load(R
 
 } // namespace Qv
 
-// All forms are replaced, since a sanitizer's own forms do not call each other. The forms that
-// return null are never made to fail: their callers carry on, so nothing could be expected.
+// All forms but those for a larger alignment, which nothing here needs, are replaced, since a
+// sanitizer's own forms do not call each other. The forms that return null are never made to fail:
+// their callers carry on, so nothing could be expected.
 
-using Align = std::align_val_t;
 using NoThrow = std::nothrow_t;
 
 void* operator new(std::size_t n) { return Qv::allocate(n); }
 void* operator new[](std::size_t n) { return Qv::allocate(n); }
-void* operator new(std::size_t n, Align a) { return Qv::allocate(n, a); }
-void* operator new[](std::size_t n, Align a) { return Qv::allocate(n, a); }
 void* operator new(std::size_t n, NoThrow const&) noexcept { return Qv::allocateOrNull(n); }
 void* operator new[](std::size_t n, NoThrow const&) noexcept { return Qv::allocateOrNull(n); }
-void* operator new(std::size_t n, Align a, NoThrow const&) noexcept {
-  return Qv::allocateOrNull(n, a);
-}
-void* operator new[](std::size_t n, Align a, NoThrow const&) noexcept {
-  return Qv::allocateOrNull(n, a);
-}
 
 void operator delete(void* p) noexcept { Qv::deallocate(p); }
 void operator delete[](void* p) noexcept { Qv::deallocate(p); }
 void operator delete(void* p, std::size_t) noexcept { Qv::deallocate(p); }
 void operator delete[](void* p, std::size_t) noexcept { Qv::deallocate(p); }
-void operator delete(void* p, Align) noexcept { Qv::deallocate(p); }
-void operator delete[](void* p, Align) noexcept { Qv::deallocate(p); }
-void operator delete(void* p, std::size_t, Align) noexcept { Qv::deallocate(p); }
-void operator delete[](void* p, std::size_t, Align) noexcept { Qv::deallocate(p); }
 void operator delete(void* p, NoThrow const&) noexcept { Qv::deallocate(p); }
 void operator delete[](void* p, NoThrow const&) noexcept { Qv::deallocate(p); }
-void operator delete(void* p, Align, NoThrow const&) noexcept { Qv::deallocate(p); }
-void operator delete[](void* p, Align, NoThrow const&) noexcept { Qv::deallocate(p); }

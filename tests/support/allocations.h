@@ -27,7 +27,9 @@ public:
 /// the failure; after each failed run, runs `check`. Each failed run must end in std::bad_alloc,
 /// and no run may lose an allocation. Stops at the first run that breaks this.
 /// @returns how many allocations were made to fail.
-template <class F, class Check> int forEachFailingAllocation(F f, Check check) {
+template <class F, class Check = void (*)()>
+int forEachFailingAllocation(
+    F f, Check check = [] {}) {
   for (int n = 1;; ++n) {
     long const before = liveAllocations();
     bool reached = false;
@@ -52,10 +54,6 @@ template <class F, class Check> int forEachFailingAllocation(F f, Check check) {
       continue;
     return n - 1;
   }
-}
-
-template <class F> int forEachFailingAllocation(F f) {
-  return forEachFailingAllocation(f, [] {});
 }
 
 /// A test that must end with as many live allocations as it started with. What a derived class

@@ -1,19 +1,11 @@
 #pragma once
 
 #include "hostError.h"
-
-#include <string>
+#include "thrown.h"
 
 namespace Qv {
 
 /// The reason that the HostError thrown by `f` gives.
-template <class F> std::string refusalOf(F f) {
-  try {
-    f();
-  } catch (HostError const& refusal) {
-    return refusal.what();
-  }
-  return "nothing was refused";
-}
+template <class F> std::string refusalOf(F f) { return thrownBy<HostError>(f).what(); }
 
 } // namespace Qv

@@ -1,0 +1,106 @@
+#include "allocations.h"
+#include "hostResources.h"
+#include "refusal.h"
+#include "temporaryDirectory.h"
+#include "uiResTable.h"
+#include "uiSplitPane.h"
+
+#include <gmock/gmock.h>
+
+namespace Qv {
+
+namespace {
+
+using testing::HasSubstr;
+
+using Pane = RCShdPtr<UiPane>;
+
+class Widgets : public NoLeaks {
+protected:
+  static Pane pane(char const* name) { return Pane(new UiPane(name)); }
+};
+
+TEST_F(Widgets, stayWithTheirParentWhenMemoryRunsOut) {
+  Pane const child = pane("child");
+  Pane const before = pane("before");
+  before->add(child);
+  EXPECT_GT(forEachFailingAllocation(
+                [&] {
+                  Pane const after = pane("after");
+                  after->add(child);
+                  EXPECT_EQ(child->getParent(), after.get());
+                  EXPECT_TRUE(before->getChildren().empty());
+                },
+                [&] {
+                  EXPECT_EQ(child->getParent(), before.get());
+                  EXPECT_EQ(before->getChildren().size(), 1U);
+                }),
+            0);
+}
+
+TEST_F(Widgets, ofASplitPaneStayWhenOthersAreRefused) {
+  auto const split = UiSplitPane::create(RCShdPtr<UiContainer>(), "split", nullptr);
+  Vector<Pane> const panes{pane("one"), pane("two")};
+  split->setPanes(panes, nullptr);
+  EXPECT_TRUE(split->openPane(panes[1]));
+  EXPECT_FALSE(split->openPane(pane("foreign")));
+  EXPECT_EQ(nullPointeeOf([&] {
+              split->setPanes({pane("three"), Pane()}, nullptr);
+            }),
+            "Qv::UiPane*");
+  EXPECT_EQ(split->getOpenPane(), panes[1]);
+  EXPECT_THAT(split->getChildren(), testing::ElementsAre(panes[0], panes[1]));
+  EXPECT_EQ(panes[0]->getParent(), split.get());
+}
+
+/// A pane "x", and a resource directory of its own for the file that describes it.
+class ResourceTable : public testing::Test, protected TemporaryDirectory {
+protected:
+  ResourceTable() { HostResources::getInstance().setDirectory(directory_); }
+  ~ResourceTable() override { HostResources::getInstance().setDirectory(""); }
+
+  void applyFile() const {
+    UiResTable(OsFilePath(std::string("x.xml"))).apply(UiResTable::Page, *pane_);
+  }
+
+  Pane const pane_{new UiPane("x")};
+};
+
+TEST_F(ResourceTable, isRefusedWithTheReason) {
+  EXPECT_THAT(refusalOf([&] { applyFile(); }), HasSubstr("in \"" + directory_.string() + "\""));
+  auto const in = [](std::string const& text) { return "<resources>" + text + "</resources>"; };
+  for (auto const& [text, reason] : std::initializer_list<std::pair<std::string, char const*>>{
+           {"<resources>", "it is no XML"},
+           {"<page/>", "its root is <page> instead of <resources>"},
+           {"<resources/><page/>", "there is more than resources in it"},
+           {in("text"), "there is text outside of its resources"},
+           {in("<page/>"), "a <page> has no name"},
+           {in("<page name='x'/><label name='x'/>"), "\"x\" is described twice"},
+           {in("<pane name='x'/>"), "\"x\" is a <pane>, which is no kind of resource"},
+           {in("<page name='x'>text</page>"), "\"x\" holds something"},
+           {in("<page name='x' text='y'/>"), "\"x\" has an unknown attribute text"},
+           {in("<page name='x' width='1' width='1'/>"), "\"x\" has the attribute width twice"},
+           {in("<page name='x' height='1px'/>"),
+            "\"x\" has the height \"1px\", which is no number"},
+           {in("<page name='x' background='#12345g'/>"), "\"#12345g\" instead of #rrggbb"},
+           {in(""), "describes no page \"x\""},
+           {in("<label name='x'/>"), "describes \"x\" as a label"}}) {
+    write("x.xml", text);
+    EXPECT_THAT(refusalOf([&] { applyFile(); }),
+                testing::AllOf(HasSubstr("the resource file \"x.xml\""), HasSubstr(reason)));
+  }
+}
+
+TEST_F(ResourceTable, givesAWidgetItsLook) {
+  write("x.xml", "<resources><page name='x' width='12' height='34' background='#ff3300'/>"
+                 "</resources>");
+  applyFile();
+  EXPECT_EQ(pane_->getWidth(), 12);
+  EXPECT_EQ(pane_->getHeight(), 34);
+  EXPECT_EQ(pane_->getColors().at(UiWidget::BackgroundColor),
+            (CoRgbColorTyped<float>{1.0F, 0.2F, 0.0F}));
+}
+
+} // namespace
+
+} // namespace Qv

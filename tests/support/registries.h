@@ -1,0 +1,23 @@
+#pragma once
+
+#include "hostActRegistry.h"
+#include "hostBrRegistry.h"
+#include "hostBuildInfoRegistry.h"
+#include "hostDndRegistry.h"
+
+#include <map>
+
+namespace Qv {
+
+/// How many objects the registries hold that a module registers, by the call that puts them there.
+inline std::map<std::string, std::size_t> registered() {
+  HostBrRegistry const& browser = HostBrRegistry::getInstance();
+  return {{"InBuildInfoUtil::registerInfo", HostBuildInfoRegistry::getInstance().getInfos().size()},
+          {"BrDndRegistry::addHandler", HostDndRegistry::getInstance().getEntries().size()},
+          {"BrRegistry::registerView", browser.getViews().size()},
+          {"BrRegistry::registerServer", browser.getServers().size()},
+          {"BrRegistry::registerIcon", browser.getIcons().size()},
+          {"ActRegistry::registerAction", HostActRegistry::getInstance().getEntries().size()}};
+}
+
+} // namespace Qv
