@@ -26,7 +26,7 @@ _qvbrowse() {
     --depth) return ;;
   esac
   if [[ $cur == -* ]]; then
-    local options='--help --json --module --no-pager --tools'
+    local options='--help --json --module --no-pager --require-isolation --tools'
     case $command in
       '') options+=' --version' ;;
       ls) options+=' --unsorted --filter' ;;

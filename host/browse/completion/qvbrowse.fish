@@ -55,6 +55,7 @@ complete -c qvbrowse -f
 complete -c qvbrowse -s h -l help -d 'Show help'
 complete -c qvbrowse -l json -d 'Print JSON for a machine'
 complete -c qvbrowse -l no-pager -d 'Never show the output through a pager'
+complete -c qvbrowse -l require-isolation -d 'Read no plug-in unless it can be isolated completely'
 complete -c qvbrowse -l module -rF -d 'The module file to load'
 complete -c qvbrowse -l tools -rFa 'frei0r frei0r:' -d 'Where the tools come from'
 complete -c qvbrowse -n 'test -z "$(__qvbrowse_arguments)"' -l version -d 'Show the version'

@@ -57,11 +57,10 @@ constexpr int Allowed[] = {
     SCMP_SYS(sigaltstack), SCMP_SYS(sysinfo), SCMP_SYS(uname)};
 
 /// No plug-in means well that calls one of these to be read.
-constexpr int Deadly[] = {SCMP_SYS(execve),           SCMP_SYS(execveat),
-                          SCMP_SYS(pidfd_send_signal), SCMP_SYS(process_vm_readv),
-                          SCMP_SYS(process_vm_writev), SCMP_SYS(ptrace),
-                          SCMP_SYS(rt_sigqueueinfo),   SCMP_SYS(rt_tgsigqueueinfo),
-                          SCMP_SYS(tkill)};
+constexpr int Deadly[] = {
+    SCMP_SYS(execve),           SCMP_SYS(execveat),          SCMP_SYS(pidfd_send_signal),
+    SCMP_SYS(process_vm_readv), SCMP_SYS(process_vm_writev), SCMP_SYS(ptrace),
+    SCMP_SYS(rt_sigqueueinfo),  SCMP_SYS(rt_tgsigqueueinfo), SCMP_SYS(tkill)};
 
 /// A rule for a call with certain arguments.
 struct Rule {
@@ -126,8 +125,8 @@ std::vector<sock_filter> compile() {
   for (int const call : Deadly)
     check(seccomp_rule_add(filter, SCMP_ACT_KILL_PROCESS, call, 0));
   for (auto const& [action, call, arguments] : rulesWithArguments())
-    check(seccomp_rule_add_array(filter, action, call, unsigned(arguments.size()),
-                                 arguments.data()));
+    check(
+        seccomp_rule_add_array(filter, action, call, unsigned(arguments.size()), arguments.data()));
 
   Descriptor const file(memfd_create("filter", MFD_CLOEXEC));
   check(seccomp_export_bpf(filter, file.get()));
