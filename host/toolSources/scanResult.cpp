@@ -9,8 +9,8 @@ namespace {
 /// All texts of a result, in the order in which they are written.
 template <class Result> auto textsOf(Result& result) {
   auto& [name, explanation, origin] = result.infoTexts;
-  return std::array{&result.failure, &result.category, &name, &explanation, &origin,
-                    &result.tooltip};
+  return std::array{&result.failure, &result.category, &name,
+                    &explanation,    &origin,          &result.tooltip};
 }
 
 } // namespace

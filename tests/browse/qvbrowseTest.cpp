@@ -282,9 +282,9 @@ TEST_F(QvBrowse, leavesOutPluginsThatCannotBeRead) {
     EXPECT_EQ(shown.status, 3);
     EXPECT_EQ(shown.out, "Type  Tool\nTool  print\nTool  \\xe9\n");
     std::string const plugins = "qvbrowse: the plug-in \"" + directory_.string() + "/plugins/";
-    EXPECT_EQ(shown.err, plugins + "abort.so\" is left out: crashed with SIGABRT (Aborted)" +
-                             hint + "\n" + plugins + "text\\n.so\" is left out: file too short" +
-                             hint + "\n");
+    EXPECT_EQ(shown.err, plugins + "abort.so\" is left out: crashed with SIGABRT (Aborted)" + hint +
+                             "\n" + plugins + "text\\n.so\" is left out: file too short" + hint +
+                             "\n");
   }
   EXPECT_EQ(json::parse(run(source + "detail tools Source/\xe9 --json").out)
                 .at("/0/pages/0/fields/0/value"_json_pointer),
@@ -578,8 +578,8 @@ TEST_F(QvBrowse, showsProgressOnATerminalOnly) {
   std::string const arguments = "--tools frei0r:plugins ls tools Source";
   std::string const shown = result(runOnTerminal("-u NO_COLOR", arguments));
   EXPECT_THAT(shown, HasSubstr("\rreading plug-ins, 0 of 1 ...\x1b[K"));
-  EXPECT_THAT(shown, testing::EndsWith(
-                         "\r\x1b[K\x1b[1mType\x1b[0m  \x1b[1mTool\x1b[0m\r\nTool  doze\r\n"));
+  EXPECT_THAT(
+      shown, testing::EndsWith("\r\x1b[K\x1b[1mType\x1b[0m  \x1b[1mTool\x1b[0m\r\nTool  doze\r\n"));
   EXPECT_EQ(result(runOnTerminal("-u NO_COLOR", arguments)).find("reading plug-ins"),
             std::string::npos);
   std::filesystem::remove_all(directory_ / "cache");

@@ -228,7 +228,8 @@ TEST_F(Frei0rTools, EndWithWhoeverReadsThem) {
   }
   // It can be opened once the plug-in has opened it.
   int life = -1;
-  while ((life = open(life_.c_str(), O_WRONLY | O_NONBLOCK)) < 0 && waitpid(child, nullptr, WNOHANG) == 0)
+  while ((life = open(life_.c_str(), O_WRONLY | O_NONBLOCK)) < 0 &&
+         waitpid(child, nullptr, WNOHANG) == 0)
     usleep(1000);
   ASSERT_GE(life, 0);
   kill(child, SIGKILL);

@@ -84,9 +84,9 @@ TEST_F(PluginCacheFile, IsIgnoredWhenItCannotBeUnderstood) {
   other[other.find('\0') - 1] = '0';
   std::string evil = whole;
   evil.replace(evil.find("Source"), 6, "Evil");
-  for (std::string const& damaged : {std::string(), std::string("garbage"), other, evil,
-                                     whole.substr(0, whole.size() - 1),
-                                     whole.substr(0, whole.find("second") + 20)}) {
+  for (std::string const& damaged :
+       {std::string(), std::string("garbage"), other, evil, whole.substr(0, whole.size() - 1),
+        whole.substr(0, whole.find("second") + 20)}) {
     write("cache/plugins", damaged);
     EXPECT_EQ(read().size(), 2U);
     EXPECT_EQ(TemporaryDirectory::read("cache/plugins"), whole);

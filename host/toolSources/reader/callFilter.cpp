@@ -57,11 +57,10 @@ constexpr int Allowed[] = {
     SCMP_SYS(sigaltstack), SCMP_SYS(sysinfo), SCMP_SYS(uname)};
 
 /// No plug-in means well that calls one of these to be read.
-constexpr int Deadly[] = {SCMP_SYS(execve),           SCMP_SYS(execveat),
-                          SCMP_SYS(pidfd_send_signal), SCMP_SYS(process_vm_readv),
-                          SCMP_SYS(process_vm_writev), SCMP_SYS(ptrace),
-                          SCMP_SYS(rt_sigqueueinfo),   SCMP_SYS(rt_tgsigqueueinfo),
-                          SCMP_SYS(tkill)};
+constexpr int Deadly[] = {
+    SCMP_SYS(execve),           SCMP_SYS(execveat),          SCMP_SYS(pidfd_send_signal),
+    SCMP_SYS(process_vm_readv), SCMP_SYS(process_vm_writev), SCMP_SYS(ptrace),
+    SCMP_SYS(rt_sigqueueinfo),  SCMP_SYS(rt_tgsigqueueinfo), SCMP_SYS(tkill)};
 
 /// A rule for a call with certain arguments.
 struct Rule {
@@ -70,33 +69,41 @@ struct Rule {
   std::vector<scmp_arg_cmp> arguments;
 };
 
+/// Holds for an argument, counted from 0, that has this value.
+scmp_arg_cmp equals(unsigned argument, std::uint64_t value) {
+  return {argument, SCMP_CMP_EQ, value, 0};
+}
+scmp_arg_cmp differs(unsigned argument, std::uint64_t value) {
+  return {argument, SCMP_CMP_NE, value, 0};
+}
+/// Holds for an argument that has these values in the bits of the mask.
+scmp_arg_cmp equalsIn(std::uint64_t mask, unsigned argument, std::uint64_t value) {
+  return {argument, SCMP_CMP_MASKED_EQ, mask, value};
+}
+
 std::vector<Rule> rulesWithArguments() {
   constexpr unsigned Writing = O_ACCMODE | O_CREAT | O_TRUNC;
   std::vector<Rule> rules = {
       // Landlock of the kernel of Debian 12 does not see that a file is truncated.
-      {SCMP_ACT_ALLOW, SCMP_SYS(open), {SCMP_A1(SCMP_CMP_MASKED_EQ, Writing, O_RDONLY)}},
-      {SCMP_ACT_ALLOW, SCMP_SYS(openat), {SCMP_A2(SCMP_CMP_MASKED_EQ, Writing, O_RDONLY)}},
+      {SCMP_ACT_ALLOW, SCMP_SYS(open), {equalsIn(Writing, 1, O_RDONLY)}},
+      {SCMP_ACT_ALLOW, SCMP_SYS(openat), {equalsIn(Writing, 2, O_RDONLY)}},
       // Whether it is a terminal.
-      {SCMP_ACT_ALLOW, SCMP_SYS(ioctl), {SCMP_A1(SCMP_CMP_EQ, TCGETS)}},
-      {SCMP_ACT_ALLOW, SCMP_SYS(prctl), {SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME)}},
-      {SCMP_ACT_ALLOW, SCMP_SYS(prctl), {SCMP_A0(SCMP_CMP_EQ, PR_SET_VMA)}},
+      {SCMP_ACT_ALLOW, SCMP_SYS(ioctl), {equals(1, TCGETS)}},
+      {SCMP_ACT_ALLOW, SCMP_SYS(prctl), {equals(0, PR_SET_NAME)}},
+      {SCMP_ACT_ALLOW, SCMP_SYS(prctl), {equals(0, PR_SET_VMA)}},
       // To ask for its own limits.
-      {SCMP_ACT_ALLOW,
-       SCMP_SYS(prlimit64),
-       {SCMP_A0(SCMP_CMP_EQ, 0), SCMP_A2(SCMP_CMP_EQ, 0)}},
+      {SCMP_ACT_ALLOW, SCMP_SYS(prlimit64), {equals(0, 0), equals(2, 0)}},
       // A thread, not a process. The newer call cannot be looked into; without it, the older one
       // is taken.
-      {SCMP_ACT_ALLOW,
-       SCMP_SYS(clone),
-       {SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD)}},
+      {SCMP_ACT_ALLOW, SCMP_SYS(clone), {equalsIn(CLONE_THREAD, 0, CLONE_THREAD)}},
       {SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), {}}};
   // Not those with which a descriptor signals another process.
   for (unsigned const command : {F_DUPFD, F_DUPFD_CLOEXEC, F_GETFD, F_SETFD, F_GETFL, F_SETFL})
-    rules.push_back({SCMP_ACT_ALLOW, SCMP_SYS(fcntl), {SCMP_A1(SCMP_CMP_EQ, command)}});
+    rules.push_back({SCMP_ACT_ALLOW, SCMP_SYS(fcntl), {equals(1, command)}});
   // A signal to itself, as abort() sends one.
   for (int const call : {SCMP_SYS(kill), SCMP_SYS(tgkill)}) {
-    rules.push_back({SCMP_ACT_ALLOW, call, {SCMP_A0(SCMP_CMP_EQ, Self)}});
-    rules.push_back({SCMP_ACT_KILL_PROCESS, call, {SCMP_A0(SCMP_CMP_NE, Self)}});
+    rules.push_back({SCMP_ACT_ALLOW, call, {equals(0, Self)}});
+    rules.push_back({SCMP_ACT_KILL_PROCESS, call, {differs(0, Self)}});
   }
   return rules;
 }
@@ -118,8 +125,8 @@ std::vector<sock_filter> compile() {
   for (int const call : Deadly)
     check(seccomp_rule_add(filter, SCMP_ACT_KILL_PROCESS, call, 0));
   for (auto const& [action, call, arguments] : rulesWithArguments())
-    check(seccomp_rule_add_array(filter, action, call, unsigned(arguments.size()),
-                                 arguments.data()));
+    check(
+        seccomp_rule_add_array(filter, action, call, unsigned(arguments.size()), arguments.data()));
 
   Descriptor const file(memfd_create("filter", MFD_CLOEXEC));
   check(seccomp_export_bpf(filter, file.get()));

@@ -93,8 +93,7 @@ ScanResult Frei0rPlugin::read() const {
   if (!category)
     throw PluginError("unknown type " + std::to_string(info.plugin_type));
   if (info.num_params < 0 || info.num_params > MostParameters)
-    throw PluginError("claims to have " + std::to_string(info.num_params) +
-                             " parameters");
+    throw PluginError("claims to have " + std::to_string(info.num_params) + " parameters");
 
   ScanResult result;
   result.category = category;

@@ -17,7 +17,12 @@ namespace Qv {
 
 namespace {
 
+#ifdef QV_SANITIZED
+// Sanitizers reserve far more than any limit.
+constexpr rlim_t AddressSpace = RLIM_INFINITY;
+#else
 constexpr rlim_t AddressSpace = 1 << 30;
+#endif
 /// Enough for the libraries of a plug-in, which are opened one after the other.
 constexpr rlim_t OpenFiles = 64;
 
@@ -33,15 +38,9 @@ bool limit(__rlimit_resource resource, rlim_t soft, rlim_t hard) {
 bool limitResources(std::chrono::seconds processorTime) {
   // The first ends the process with a signal of its own, the other one where that is ignored.
   auto const seconds = rlim_t(processorTime.count());
-  bool const done = limit(RLIMIT_CORE, 0, 0) && limit(RLIMIT_FSIZE, 0, 0) &&
-                    limit(RLIMIT_NOFILE, OpenFiles, OpenFiles) &&
-                    limit(RLIMIT_CPU, seconds, seconds + 1);
-#ifdef QV_SANITIZED
-  // Sanitizers reserve far more than that.
-  return done;
-#else
-  return done && limit(RLIMIT_AS, AddressSpace, AddressSpace);
-#endif
+  return limit(RLIMIT_CORE, 0, 0) && limit(RLIMIT_FSIZE, 0, 0) &&
+         limit(RLIMIT_NOFILE, OpenFiles, OpenFiles) && limit(RLIMIT_CPU, seconds, seconds + 1) &&
+         limit(RLIMIT_AS, AddressSpace, AddressSpace);
 }
 
 /// The directories in which a plug-in file lies, by its name and by what that refers to.

@@ -1,8 +1,7 @@
-// qvreader [--processor-time SECONDS] [--time MILLISECONDS] FILE...: reads each plug-in file in a
-// process of its own, closed in, as many at a time as there are processors. For each, writes the
-// file and its result on stdout, as texts that each end in a zero byte; in place of a file, an empty
-// text is followed by why none can be read. Started by programs that read tool sources, with a pipe
-// as its stdout.
+// qvreader [--processor-time SECONDS] [--time MILLISECONDS] FILE...: reads plug-in files, given by
+// their absolute paths, each in a process of its own that is closed in, as many at a time as there
+// are processors. Writes each file and its result on stdout, a pipe, as texts that each end in a zero
+// byte; in place of a file, an empty text comes before the reason why no more can be read.
 
 #include "pluginProcess.h"
 
