@@ -29,7 +29,8 @@ using Item = RCShdPtr<BrBrowsable>;
 
 /// Whatever a browser reads of an item and of its children.
 std::string browse(Item const& item) {
-  std::string result = item->getTooltip(0);
+  std::string result = OPtr<BrServer>(item->getServer()->clone())->getSchemeName() + ", ";
+  result += item->getTooltip(0);
   result += item->getImage(int(BrBrowsable::THUMBNAIL), {1, 1}) ? ", image, " : ", ";
   for (unsigned int const id :
        {BrBrowsable::NAME, BrBrowsable::BROWSABLE_TYPE, BrBrowsable::ROOT_NAME, BrBrowsable::OWNER,
