@@ -12,17 +12,6 @@
 
 namespace Qv {
 
-// Callers hold these by value, so their sizes are fixed as well.
-static_assert(sizeof(RCShdPtr<BrBrowsable>) == sizeof(void*));
-static_assert(sizeof(OPtr<BrBrowsable>) == sizeof(void*));
-static_assert(sizeof(RCStrongPtr<Names>) == 2 * sizeof(void*));
-static_assert(sizeof(RCPvtEngPtr<IteratorImp<std::string>>) == sizeof(void*));
-static_assert(sizeof(Iterator<std::string>) == 2 * sizeof(void*));
-static_assert(sizeof(NamesEngine) == 5 * sizeof(void*));
-static_assert(sizeof(BrBrowsablesEngine) == 5 * sizeof(void*));
-static_assert(sizeof(RCSWCount<LkCounter<int>>) == 2 * sizeof(void*));
-static_assert(std::is_same_v<Iterator<std::string>::difference_type, std::int64_t>);
-
 template void RCBasePtr<PiNodeDndInterface const>::dump(std::ostream& os) const;
 template void RCBasePtr<PbrToolDndHandler>::dump(std::ostream& os) const;
 template void RCBasePtr<PbrViewBrowsable>::dump(std::ostream& os) const;
