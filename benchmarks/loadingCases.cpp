@@ -1,7 +1,8 @@
 #include "cases.h"
 
-#include "hostFiles.h"
 #include "hostModule.h"
+
+#include <boost/dll/shared_library.hpp>
 
 namespace Qv {
 
@@ -10,7 +11,7 @@ namespace {
 auto loadAndUnload(char const* file) {
   return [file](auto& loop) {
     for ([[maybe_unused]] auto _ : loop)
-      loadLibrary(file);
+      boost::dll::shared_library const library(file, boost::dll::load_mode::rtld_now);
   };
 }
 

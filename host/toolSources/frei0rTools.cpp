@@ -56,10 +56,10 @@ ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache,
     if (!result.failure.empty())
       continue;
     ToolSource::Tool& tool = source.tools.emplace_back();
-    tool.facts.name = file.stem();
+    tool.info.name = file.stem();
     categories.insert(result.category);
-    tool.facts.category = std::move(result.category);
-    tool.facts.infoTexts = std::move(result.infoTexts);
+    tool.info.category = std::move(result.category);
+    tool.info.infoTexts = std::move(result.infoTexts);
     tool.tooltip = std::move(result.tooltip);
   }
   for (char const* const category : PluginCategories)

@@ -1,7 +1,7 @@
 #include "pluginCache.h"
 
 #include "hostError.h"
-#include "hostFiles.h"
+#include "readFile.h"
 
 #include <cstdlib>
 #include <fmt/format.h>
@@ -22,9 +22,9 @@ constexpr std::string_view Format = "qvbrowse plug-ins 2";
 /// What tells whether a plug-in file is still the same: its size and when it was modified. To be
 /// taken before the plug-in is read. A file that is missing has a stamp as well.
 std::string stampOf(fs::path const& plugin) {
-  struct stat facts = {};
-  stat(plugin.c_str(), &facts);
-  return fmt::format("{} {}.{:09}", facts.st_size, facts.st_mtim.tv_sec, facts.st_mtim.tv_nsec);
+  struct stat info = {};
+  stat(plugin.c_str(), &info);
+  return fmt::format("{} {}.{:09}", info.st_size, info.st_mtim.tv_sec, info.st_mtim.tv_nsec);
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "toolCatalogue.h"
 
 #include "hostError.h"
-#include "hostFiles.h"
 #include "hostPath.h"
+#include "readFile.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -218,16 +218,16 @@ ToolSource::Tool takeTool(Json& value, Place const& place) {
   Object object(value, place,
                 {"name", "category", "active", "internal", "superTool", "texts", "tooltip"});
   ToolSource::Tool tool;
-  HostToolFacts& facts = tool.facts;
-  facts.name = object.takeName("name", "tool name");
-  facts.category = object.takeName("category", "category name");
-  facts.active = object.takeFlag("active", true);
-  facts.internal = object.takeFlag("internal", false);
-  facts.superTool = object.takeFlag("superTool", false);
+  HostToolInfo& info = tool.info;
+  info.name = object.takeName("name", "tool name");
+  info.category = object.takeName("category", "category name");
+  info.active = object.takeFlag("active", true);
+  info.internal = object.takeFlag("internal", false);
+  info.superTool = object.takeFlag("superTool", false);
   object.with("texts", [&](Json& texts, Place const& textsPlace) {
-    if (texts.is_array() && texts.size() != facts.infoTexts.size())
+    if (texts.is_array() && texts.size() != info.infoTexts.size())
       throw textsPlace.fault(fmt::format("expected three texts, found {}", texts.size()));
-    auto text = facts.infoTexts.begin();
+    auto text = info.infoTexts.begin();
     forEach(texts, textsPlace,
             [&](Json& element, Place const& at) { *text++ = takeString(element, at); });
   });
@@ -258,7 +258,7 @@ ToolSource takeCatalogue(Json& value) {
   object.with("tools", [&](Json& tools, Place const& place) {
     forEach(tools, place, [&](Json& tool, Place const& at) {
       source.tools.push_back(takeTool(tool, at));
-      std::string const& category = source.tools.back().facts.category;
+      std::string const& category = source.tools.back().info.category;
       if (!known.insert(category).second)
         return;
       if (listed)

@@ -28,9 +28,9 @@ void registerToolSources(std::vector<ToolSource> const& sources) {
         registry.addCategory(category);
     known.insert(source.categories.begin(), source.categories.end());
     for (ToolSource::Tool const& tool : source.tools) {
-      registry.addTool(tool.facts);
+      registry.addTool(tool.info);
       if (!tool.tooltip.empty())
-        tooltips.emplace(tool.facts.name, tool.tooltip);
+        tooltips.emplace(tool.info.name, tool.tooltip);
     }
     for (ToolSource::View const& view : source.views) {
       HostViewFactory::getInstance().addView({view.name, view.label});

@@ -14,7 +14,7 @@ struct ToolSource {
   std::string origin;
 
   struct Tool {
-    HostToolFacts facts;
+    HostToolInfo info;
     /// Empty when there is none.
     std::string tooltip;
   };

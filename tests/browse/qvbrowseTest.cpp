@@ -209,7 +209,7 @@ TEST_F(QvBrowse, reportsAFailureInOneSentence) {
              {"drag tools Wood/saw a/b/c", {"\"tools\"", "\"a/b/c\""}},
              {"detail tools Wood/saw a/b/c", {"\"tools\"", "\"a/b/c\""}},
              {"detail tools Wood \"\"", {"\"tools\"", "no detail view"}},
-             {"run-action Close views plan", {"no action \"Close\"", "\"Open\", "}},
+             {"run-action Close views plan", {"unknown action \"Close\"", "\"Open\", "}},
              {"run-action Open tools Wood/saw", {"\"Open\"", "not valid"}}}) {
     SCOPED_TRACE(arguments);
     expectFailure(browse(arguments), reasons);

@@ -1,6 +1,5 @@
 #include "hostModule.h"
 #include "allocations.h"
-#include "hostFiles.h"
 #include "hostImage.h"
 #include "hostJournal.h"
 #include "hostPackageManager.h"
@@ -10,6 +9,7 @@
 #include "registries.h"
 #include "temporaryDirectory.h"
 
+#include <boost/dll/shared_library.hpp>
 #include <dlfcn.h>
 #include <gmock/gmock.h>
 
@@ -123,7 +123,8 @@ TEST_F(LoadedModule, withdrawsNothingAndTheHooksDoNothing) {
   ASSERT_TRUE(package);
   package->packageHookA();
   package->packageHookB();
-  auto const library = loadLibrary(PLUGINBROWSERQVMODULE_FILE);
+  boost::dll::shared_library const library(PLUGINBROWSERQVMODULE_FILE,
+                                           boost::dll::load_mode::rtld_now);
   bool const& flag =
       library.get<bool>("_ZN2Qv6InInitIN6QvInit21pluginBrowserQvmoduleEE12packageFlag_E");
   EXPECT_FALSE(flag);
@@ -145,13 +146,14 @@ TEST_F(LoadedModule, leavesWhatItRegisteredBeforeAFailureOfTheHost) {
     long const before = liveAllocations();
     journal_.failAt(failing);
     {
-      auto const library = loadLibrary(PLUGINBROWSERQVMODULE_FILE);
+      boost::dll::shared_library const library(PLUGINBROWSERQVMODULE_FILE,
+                                               boost::dll::load_mode::rtld_now);
       HostPackageManager& manager = HostPackageManager::getInstance();
       auto const initialize = [&] {
         manager.throwLoadFailure();
         manager.initialize(*findPackage());
       };
-      EXPECT_EQ(refusalOf(initialize), calls[failing].operation + " was told to fail");
+      EXPECT_EQ(refusalOf(initialize), calls[failing].operation + ": injected failure");
       // Loading goes on after a failure; initialising does not.
       EXPECT_EQ(journal_.getEntries().size(), std::max(failing + 1, CallsOfLoading));
       EXPECT_EQ(registered(), registeredBy(calls, failing));

@@ -57,16 +57,16 @@ TEST_F(Registries, refuseWithTheReasonAndStayAsTheyWere) {
     return [&, name] { views_.addView({name, ""}); };
   };
   for (auto const& [reason, ask] :
-       {Case{"the scheme \"tools\" is registered already",
+       {Case{"duplicate scheme \"tools\"",
              [&] { browser_.registerServer(OPtr<BrServer>(browser_.getServers()[0]->clone())); }},
-        Case{"a view named \"graph\" is registered already", addView("graph")},
+        Case{"duplicate view \"graph\"", addView("graph")},
         Case{"the view name \"gra...\" holds a zero byte", addView("gra\0ph"s)},
         Case{"the category name is empty", [&] { tools_.addCategory(""); }},
         Case{"the tool name \"a/b\" holds a \"/\"",
              [&] { tools_.addTool({.name = "a/b", .category = "x"}); }},
         Case{"the category name \"...\" holds a zero byte",
              [&] { tools_.addTool({.name = "a", .category = "\0"s}); }},
-        Case{"there is no colour \"x\"", [] { UiColorRegistry::getInstance().getColor("x"); }},
+        Case{"unknown colour \"x\"", [] { UiColorRegistry::getInstance().getColor("x"); }},
         Case{"package \"circle\" depends on itself or has failed before",
              [&] { manager_.initialize(circle); }}}) {
     EXPECT_EQ(refusalOf(ask), reason);
@@ -82,8 +82,7 @@ TEST_F(Registries, refuseWithTheReasonAndStayAsTheyWere) {
   EXPECT_EQ(registered(), before);
   EXPECT_EQ(handlers.getEntries()[0].handler, handler) << "the first handler of a class stays";
   browser_.clear();
-  EXPECT_EQ(refusalOf([&] { module_.initialize(); }),
-            "an action named \"Open\" is registered already");
+  EXPECT_EQ(refusalOf([&] { module_.initialize(); }), "duplicate action \"Open\"");
   EXPECT_EQ(HostActRegistry::getInstance().getEntries().size(), 2U);
 }
 

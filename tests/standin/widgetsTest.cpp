@@ -70,18 +70,18 @@ TEST_F(ResourceTable, isRefusedWithTheReason) {
   EXPECT_THAT(refusalOf([&] { applyFile(); }), HasSubstr("in \"" + directory_.string() + "\""));
   auto const in = [](std::string const& text) { return "<resources>" + text + "</resources>"; };
   for (auto const& [text, reason] : std::initializer_list<std::pair<std::string, char const*>>{
-           {"<resources>", "it is no XML"},
+           {"<resources>", "it is not well-formed XML"},
            {"<page/>", "its root is <page> instead of <resources>"},
            {"<resources/><page/>", "there is more than resources in it"},
            {in("text"), "there is text outside of its resources"},
            {in("<page/>"), "a <page> has no name"},
            {in("<page name='x'/><label name='x'/>"), "\"x\" is described twice"},
-           {in("<pane name='x'/>"), "\"x\" is a <pane>, which is no kind of resource"},
+           {in("<pane name='x'/>"), "\"x\" is a <pane>, which is not a kind of resource"},
            {in("<page name='x'>text</page>"), "\"x\" holds something"},
            {in("<page name='x' text='y'/>"), "\"x\" has an unknown attribute text"},
            {in("<page name='x' width='1' width='1'/>"), "\"x\" has the attribute width twice"},
            {in("<page name='x' height='1px'/>"),
-            "\"x\" has the height \"1px\", which is no number"},
+            "\"x\" has the height \"1px\", which is not a pixel count"},
            {in("<page name='x' background='#12345g'/>"), "\"#12345g\" instead of #rrggbb"},
            {in(""), "describes no page \"x\""},
            {in("<label name='x'/>"), "describes \"x\" as a label"}}) {

@@ -105,14 +105,14 @@ TEST_F(ToolCatalogue, ThatCannotBeReadIsRefused) {
   EXPECT_THAT(refusal(directory_), AllOf(HasSubstr(directory_.string()), HasSubstr("directory")));
 }
 
-/// The facts of each tool, in words.
+/// The info of each tool, in words.
 std::vector<std::string> toolsOf(ToolSource const& source) {
   std::vector<std::string> result;
-  for (auto const& [facts, tooltip] : source.tools)
-    result.push_back(facts.name + " in " + facts.category + (facts.active ? ", active" : "") +
-                     (facts.internal ? ", internal" : "") + (facts.superTool ? ", super" : "") +
-                     ": " + facts.infoTexts[0] + "/" + facts.infoTexts[1] + "/" +
-                     facts.infoTexts[2] + "; " + tooltip);
+  for (auto const& [info, tooltip] : source.tools)
+    result.push_back(info.name + " in " + info.category + (info.active ? ", active" : "") +
+                     (info.internal ? ", internal" : "") + (info.superTool ? ", super" : "") +
+                     ": " + info.infoTexts[0] + "/" + info.infoTexts[1] + "/" + info.infoTexts[2] +
+                     "; " + tooltip);
   return result;
 }
 

@@ -34,8 +34,8 @@ BrServer& HostBrRegistry::getServer(std::string const& scheme) const {
   std::string known;
   for (OPtr<BrServer> const& server : servers_)
     known += (known.empty() ? "\"" : ", \"") + server->getSchemeName() + "\"";
-  throw HostError("nobody registered the scheme \"" + scheme + "\"" +
-                  (known.empty() ? "" : "; there is " + known));
+  throw HostError("unknown scheme \"" + scheme + "\" (known: " + (known.empty() ? "none" : known) +
+                  ")");
 }
 
 RCShdPtr<WsManagedImage> HostBrRegistry::getIcon(std::string const& key) const {
@@ -66,7 +66,7 @@ void HostBrRegistry::registerServer(OPtr<BrServer> server) {
   HostJournal::getInstance().record("BrRegistry::registerServer", scheme);
   HostPath::requireComponent(scheme, "scheme name");
   if (find(scheme))
-    throw HostError("the scheme \"" + scheme + "\" is registered already");
+    throw HostError("duplicate scheme \"" + scheme + "\"");
   servers_.push_back(std::move(server));
 }
 

@@ -30,7 +30,7 @@ HostViewFactory& HostViewFactory::getInstance() {
 void HostViewFactory::addView(View const& view) {
   HostPath::requireComponent(view.name, "view name");
   if (!labels_.emplace(view.name, view.label).second)
-    throw HostError("a view named \"" + view.name + "\" is registered already");
+    throw HostError("duplicate view \"" + view.name + "\"");
   names_.push_back(view.name);
 }
 

@@ -25,7 +25,7 @@ void HostJournal::record(char const* operation, std::string_view key, std::strin
     return;
   entries_.push_back({operation, std::string(key), std::string(detail)});
   if (entries_.size() - 1 == failAt_)
-    throw HostError(std::string(operation) + " was told to fail");
+    throw HostError(std::string(operation) + ": injected failure");
 }
 
 } // namespace Qv

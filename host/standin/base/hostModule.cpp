@@ -1,15 +1,39 @@
 #include "hostModule.h"
 
 #include "hostError.h"
-#include "hostFiles.h"
 #include "hostPackageManager.h"
 #include "typeName.h"
 
+#include <boost/dll/shared_library.hpp>
 #include <cxxabi.h>
+#include <dlfcn.h>
 #include <set>
 #include <string_view>
+#include <system_error>
 
 namespace Qv {
+
+namespace {
+
+/// @throws HostError with nothing but the reason.
+boost::dll::shared_library loadLibrary(std::filesystem::path const& file) {
+  std::error_code error;
+  std::filesystem::path const absolute = std::filesystem::absolute(file, error);
+  if (error)
+    throw HostError(error.message());
+  boost::dll::shared_library library(absolute, boost::dll::load_mode::rtld_now, error);
+  if (!error)
+    return library;
+  char const* const text = dlerror();
+  std::string reason = text ? text : "the loader gives no reason";
+  // The loader starts with the path that it was given.
+  std::string const prefix = absolute.string() + ": ";
+  if (reason.starts_with(prefix))
+    reason.erase(0, prefix.size());
+  throw HostError(reason);
+}
+
+} // namespace
 
 HostModule::HostModule(std::filesystem::path const& file) {
   HostPackageManager& manager = HostPackageManager::getInstance();

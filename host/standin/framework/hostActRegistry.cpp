@@ -48,8 +48,9 @@ void HostActRegistry::perform(std::string const& name, RCShdPtr<SnItem const> co
   }
   std::string known;
   for (Entry const& entry : entries_)
-    known += (known.empty() ? "; there is \"" : ", \"") + entry.action->getName() + "\"";
-  throw HostError("there is no action \"" + name + "\"" + known);
+    known += (known.empty() ? "\"" : ", \"") + entry.action->getName() + "\"";
+  throw HostError("unknown action \"" + name + "\" (known: " + (known.empty() ? "none" : known) +
+                  ")");
 }
 
 Vector<LiString> HostActRegistry::getOptions(ActAction const& action,
@@ -65,7 +66,7 @@ void HostActRegistry::add(OPtr<ActAction> action, ActRegistry::DynamicState stat
   HostJournal::getInstance().record("ActRegistry::registerAction", name, std::to_string(state));
   for (Entry const& entry : entries_)
     if (entry.action->getName() == name)
-      throw HostError("an action named \"" + name + "\" is registered already");
+      throw HostError("duplicate action \"" + name + "\"");
   entries_.push_back({std::move(action), state});
 }
 

@@ -6,18 +6,18 @@ namespace Qv {
 
 PiTool::~PiTool() = default;
 
-HostTool::HostTool(HostToolFacts facts) : facts_(std::move(facts)) {}
+HostTool::HostTool(HostToolInfo info) : info_(std::move(info)) {}
 
 HostTool::~HostTool() = default;
 
-bool HostTool::isActive() const { return facts_.active; }
+bool HostTool::isActive() const { return info_.active; }
 
-std::string HostTool::getInfoText1() const { return facts_.infoTexts[0]; }
+std::string HostTool::getInfoText1() const { return info_.infoTexts[0]; }
 
-std::string HostTool::getInfoText2() const { return facts_.infoTexts[1]; }
+std::string HostTool::getInfoText2() const { return info_.infoTexts[1]; }
 
-std::string HostTool::getInfoText3() const { return facts_.infoTexts[2]; }
+std::string HostTool::getInfoText3() const { return info_.infoTexts[2]; }
 
-std::string HostTool::getName() const { return facts_.name; }
+std::string HostTool::getName() const { return info_.name; }
 
 } // namespace Qv

@@ -8,7 +8,7 @@
 namespace Qv {
 
 /// What the host knows of one tool.
-struct HostToolFacts {
+struct HostToolInfo {
   std::string name;
   std::string category;
   bool active = true;
@@ -20,7 +20,7 @@ struct HostToolFacts {
 /// A registered tool.
 class QV_EXPORT HostTool final : public PiTool {
 public:
-  explicit HostTool(HostToolFacts facts);
+  explicit HostTool(HostToolInfo info);
 
   bool isActive() const override;
   std::string getInfoText1() const override;
@@ -28,13 +28,13 @@ public:
   std::string getInfoText3() const override;
   std::string getName() const override;
 
-  bool isInternal() const { return facts_.internal; }
-  std::string const& getCategory() const { return facts_.category; }
+  bool isInternal() const { return info_.internal; }
+  std::string const& getCategory() const { return info_.category; }
 
 private:
   ~HostTool() override;
 
-  HostToolFacts facts_;
+  HostToolInfo info_;
 };
 
 } // namespace Qv

@@ -18,14 +18,14 @@ void HostToolRegistry::addCategory(std::string const& name) {
   categories_.push_back(name);
 }
 
-void HostToolRegistry::addTool(HostToolFacts const& facts) {
-  HostPath::requireComponent(facts.name, "tool name");
-  HostPath::requireComponent(facts.category, "category name");
-  RCShdPtr<PiTool const> const tool(new HostTool(facts));
+void HostToolRegistry::addTool(HostToolInfo const& info) {
+  HostPath::requireComponent(info.name, "tool name");
+  HostPath::requireComponent(info.category, "category name");
+  RCShdPtr<PiTool const> const tool(new HostTool(info));
   tools_.push_back(tool);
-  toolsByCategory_[facts.category].push_back(tool);
-  if (toolsByName_.emplace(facts.name, tool).second && facts.superTool)
-    superTools_.insert(facts.name);
+  toolsByCategory_[info.category].push_back(tool);
+  if (toolsByName_.emplace(info.name, tool).second && info.superTool)
+    superTools_.insert(info.name);
 }
 
 void HostToolRegistry::clear() {

@@ -19,7 +19,7 @@ public:
   void addCategory(std::string const& name);
   /// Adds a tool after the existing ones. Of tools of the same name, look-ups find the first.
   /// @throws HostError when the name or the category is not a single path component.
-  void addTool(HostToolFacts const& facts);
+  void addTool(HostToolInfo const& info);
   void clear();
 
   RCShdPtr<PiTool const> findTool(std::string const& name, bool flag) override;

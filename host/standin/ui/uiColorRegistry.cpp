@@ -15,7 +15,7 @@ UiColorRegistry& UiColorRegistry::getInstance() {
 CoRgbColorTyped<float> UiColorRegistry::getColor(LiString const& name) const {
   HostJournal::getInstance().record("UiColorRegistry::getColor", name);
   if (name != NonEditBackground)
-    throw HostError("there is no colour \"" + name + "\"");
+    throw HostError("unknown colour \"" + name + "\"");
   return {0.25F, 0.25F, 0.25F};
 }
 

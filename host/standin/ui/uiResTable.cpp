@@ -1,7 +1,6 @@
 #include "uiResTable.h"
 
 #include "hostError.h"
-#include "hostFiles.h"
 #include "hostJournal.h"
 #include "hostResources.h"
 
@@ -23,16 +22,13 @@ public:
   explicit ResourceReader(std::string file) : file_(std::move(file)) {}
 
   std::map<std::string, UiResTable::Resource> read(std::filesystem::path const& path) {
-    std::string text;
-    try {
-      text = readFile(path);
-    } catch (HostError const& error) {
-      fail(fmt::format("{} in \"{}\"", error.what(), path.parent_path().string()));
-    }
     pugi::xml_document document;
-    pugi::xml_parse_result const result = document.load_buffer(text.data(), text.size());
+    pugi::xml_parse_result const result = document.load_file(path.c_str());
+    if (result.status == pugi::status_file_not_found || result.status == pugi::status_io_error)
+      fail(fmt::format("it cannot be read in \"{}\"", path.parent_path().string()));
     if (!result)
-      fail(fmt::format("it is no XML at byte {}: {}", result.offset, result.description()));
+      fail(fmt::format("it is not well-formed XML at byte {}: {}", result.offset,
+                       result.description()));
     pugi::xml_node const root = document.document_element();
     if (std::string_view(root.name()) != "resources")
       fail(fmt::format("its root is <{}> instead of <resources>", root.name()));
@@ -61,7 +57,7 @@ private:
     auto const* const kind =
         std::find(std::begin(kindNames), std::end(kindNames), std::string_view(element.name()));
     if (kind == std::end(kindNames))
-      fail(fmt::format("\"{}\" is a <{}>, which is no kind of resource", name, element.name()));
+      fail(fmt::format("\"{}\" is a <{}>, which is not a kind of resource", name, element.name()));
     UiResTable::Resource resource = {UiResTable::Kind(kind - std::begin(kindNames)), "", 0, 0,
                                      std::nullopt};
     if (element.first_child())
@@ -89,7 +85,7 @@ private:
     int number = 0;
     auto const [end, error] = std::from_chars(text.begin(), text.end(), number);
     if (error != std::errc() || end != text.end() || number < 0)
-      fail(fmt::format("\"{}\" has the {} \"{}\", which is no number of pixels", name, key, text));
+      fail(fmt::format("\"{}\" has the {} \"{}\", which is not a pixel count", name, key, text));
     return number;
   }
 

@@ -1,0 +1,56 @@
+# qv_resources(<directory>): puts the files of the directory there, again whenever one changes.
+function(qv_resources directory)
+  file(GLOB files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${directory}/*)
+  foreach(file IN LISTS files)
+    cmake_path(GET file FILENAME name)
+    configure_file(${file} ${QV_RESOURCE_DIR}/${name} COPYONLY)
+  endforeach()
+  install(FILES ${files} DESTINATION ${CMAKE_INSTALL_DATADIR}/qvbrowse COMPONENT runtime)
+endfunction()
+
+# qv_public_headers(<target> <directory>...): gives everyone who links to the target the headers in
+# the directories, and installs them.
+function(qv_public_headers target)
+  list(TRANSFORM ARGN APPEND /*.h OUTPUT_VARIABLE patterns)
+  file(GLOB headers CONFIGURE_DEPENDS ${patterns})
+  target_sources(${target} INTERFACE FILE_SET HEADERS BASE_DIRS ${ARGN} FILES ${headers})
+  string(REPLACE _headers "" name ${target})
+  install(TARGETS ${target} EXPORT QvPluginBrowser FILE_SET HEADERS COMPONENT development
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qvbrowse/${name})
+endfunction()
+
+# qv_install_library(<target>): installs a library of the host or the module.
+function(qv_install_library target)
+  set_target_properties(${target} PROPERTIES
+    INSTALL_RPATH $ORIGIN BUILD_WITH_INSTALL_RPATH ON)
+  install(TARGETS ${target} EXPORT QvPluginBrowser
+    LIBRARY DESTINATION ${QV_LIBRARY_DIR} COMPONENT runtime)
+endfunction()
+
+# qv_host_library(<name> [dependency...]): the library libQV<name> from all sources in the directory
+# of that name. Dependencies are other host libraries and third-party targets.
+function(qv_host_library name)
+  file(GLOB sources CONFIGURE_DEPENDS ${name}/*.cpp)
+  add_library(QV${name} SHARED ${sources})
+  target_link_libraries(QV${name} PUBLIC contract PRIVATE standin_headers ${ARGN})
+  set_target_properties(QV${name} PROPERTIES EXPORT_NAME ${name})
+  qv_install_library(QV${name})
+endfunction()
+
+# qv_test_program(<name> [LABELS label...] [LIBRARIES library...] [FILES target...]): one program
+# from all sources in the directory of that name; each test in it is a test of CTest. The path of the
+# file of each target in FILES is in the macro <TARGET>_FILE.
+function(qv_test_program name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LABELS;LIBRARIES;FILES")
+  file(GLOB sources CONFIGURE_DEPENDS ${name}/*.cpp)
+  add_executable(${name}Tests ${sources})
+  target_link_libraries(${name}Tests PRIVATE
+    ${arg_LIBRARIES} test_support GTest::gmock GTest::gtest_main)
+  foreach(target IN LISTS arg_FILES)
+    add_dependencies(${name}Tests ${target})
+    string(TOUPPER ${target}_FILE macro)
+    target_compile_definitions(${name}Tests PRIVATE ${macro}="$<TARGET_FILE:${target}>")
+  endforeach()
+  target_compile_definitions(${name}Tests PRIVATE RESOURCE_DIR="${QV_RESOURCE_DIR}")
+  gtest_discover_tests(${name}Tests PROPERTIES LABELS "${arg_LABELS}" DISCOVERY_TIMEOUT 60)
+endfunction()
