@@ -107,7 +107,8 @@ for symbol in module.get_section_by_name(".dynsym").iter_symbols():
 symbols = subprocess.run(["c++filt"], input="\n".join(symbols), capture_output=True, text=True,
                          check=True).stdout
 
-text = "\n".join([*(block for key in sorted(types) for block in sorted(types[key])),
+text = "\n".join(["# The binary interface of the module, in bytes. Written by scripts/abi --accept.\n",
+                  *(block for key in sorted(types) for block in sorted(types[key])),
                   *sorted(set(symbols.splitlines())), ""])
 text = text.replace("std::__cxx11::basic_string<char, std::char_traits<char>, "
                     "std::allocator<char> >", "std::string")
