@@ -91,11 +91,14 @@ TEST_F(DndHandlers, letViewsBeDragged) {
 TEST_F(DndHandlers, needACarrierWithASelectionForWhatTheyAdd) {
   Carrier const none;
   Carrier const empty(new DrCarrier(Selection()));
-  for (auto const& [handler, item] : {std::pair(toolHandler_, Browsable(tool("Colour/invert"))),
-                                      std::pair(viewHandler_, Browsable(view("graph")))}) {
-    EXPECT_EQ(nullPointeeOf([&] { handler->populateSelection(item, none); }), "Qv::DrCarrier*");
-    EXPECT_EQ(nullPointeeOf([&] { handler->populateSelection(item, empty); }), "Qv::SnSelection*");
-    handler->populateSelection(tool("Colour/nosuch"), none);
+  for (auto const& drag : {std::pair(toolHandler_, Browsable(tool("Colour/invert"))),
+                           std::pair(viewHandler_, Browsable(view("graph")))}) {
+    auto const into = [&](Carrier const& carrier) {
+      drag.first->populateSelection(drag.second, carrier);
+    };
+    EXPECT_EQ(nullPointeeOf([&] { into(none); }), "Qv::DrCarrier*");
+    EXPECT_EQ(nullPointeeOf([&] { into(empty); }), "Qv::SnSelection*");
+    drag.first->populateSelection(tool("Colour/nosuch"), none);
   }
 }
 

@@ -1,7 +1,7 @@
 // qvreader [--processor-time SECONDS] [--time MILLISECONDS] FILE...: reads plug-in files, given by
 // their absolute paths, each in a process of its own that is closed in, as many at a time as there
-// are processors. Writes each file and its result on stdout, a pipe, as texts that each end in a zero
-// byte; in place of a file, an empty text comes before the reason why no more can be read.
+// are processors. Writes each file and its result on stdout, a pipe, as texts that each end in a
+// zero byte; in place of a file, an empty text comes before the reason why no more can be read.
 
 #include "pluginProcess.h"
 
