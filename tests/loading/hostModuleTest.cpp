@@ -98,9 +98,9 @@ Calls startUp() {
 /// What the registries hold after the first `count` of these calls.
 std::map<std::string, std::size_t> registeredBy(Calls const& calls, std::size_t count) {
   std::map<std::string, std::size_t> result = registered();
-  for (auto& [operation, number] : result)
-    number = std::count_if(calls.begin(), calls.begin() + count,
-                           [&](auto const& call) { return call.operation == operation; });
+  for (auto& entry : result)
+    entry.second = std::count_if(calls.begin(), calls.begin() + count,
+                                 [&](auto const& call) { return call.operation == entry.first; });
   return result;
 }
 

@@ -163,11 +163,11 @@ TEST_F(OutOfMemory, losesNothing) {
     std::string (*use)(Item const&);
     char const* shows;
   };
-  for (auto const& [use, shows] : {Scenario{browse, "image"}, Scenario{drag, "arrives"},
+  for (Scenario const& scenario : {Scenario{browse, "image"}, Scenario{drag, "arrives"},
                                    Scenario{showDetail, "8"}, Scenario{performActions, "Views"}}) {
-    SCOPED_TRACE(shows);
-    EXPECT_THAT(useEachItem(use), testing::HasSubstr(shows));
-    sweep([&] { return useEachItem(use); });
+    SCOPED_TRACE(scenario.shows);
+    EXPECT_THAT(useEachItem(scenario.use), testing::HasSubstr(scenario.shows));
+    sweep([&] { return useEachItem(scenario.use); });
   }
   HostWorkspace::setCurrent(RCShdPtr<UiWorkspace>());
 }
