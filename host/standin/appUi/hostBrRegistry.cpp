@@ -73,7 +73,7 @@ void HostBrRegistry::registerServer(OPtr<BrServer> server) {
 void HostBrRegistry::registerView(OPtr<BrView> view, LiString role) {
   BrView const& prototype = *view;
   HostJournal::getInstance().record("BrRegistry::registerView", role, typeName(typeid(prototype)));
-  views_.push_back({std::move(role), std::move(view)});
+  views_.push_back({role, std::move(view)});
 }
 
 RCShdPtr<WsManagedImage> HostBrRegistry::getThumbnail(LiString const& key,
