@@ -115,9 +115,9 @@ void check(int status) {
 }
 
 std::vector<sock_filter> compile() {
-  std::unique_ptr<void, void (*)(scmp_filter_ctx)> const context(
-      seccomp_init(SCMP_ACT_ERRNO(EPERM)), &seccomp_release);
-  scmp_filter_ctx const filter = context.get();
+  std::unique_ptr<void, void (*)(scmp_filter_ctx)> const owner(seccomp_init(SCMP_ACT_ERRNO(EPERM)),
+                                                               &seccomp_release);
+  auto* const filter = owner.get();
   // A tree is shorter to walk than a list.
   check(seccomp_attr_set(filter, SCMP_FLTATR_CTL_OPTIMIZE, 2));
   for (int const call : Allowed)
