@@ -12,7 +12,7 @@ namespace Qv {
 template <class F> void runWithoutCalls(std::initializer_list<int> calls, F f) {
   // A filter stays for as long as its thread.
   std::thread([&] {
-    scmp_filter_ctx const filter = seccomp_init(SCMP_ACT_ALLOW);
+    auto* const filter = seccomp_init(SCMP_ACT_ALLOW);
     int failed = 0;
     for (int const call : calls)
       failed |= seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), call, 0);
