@@ -11,9 +11,11 @@ ExitStatus showPlugins(Output& output, Session const& session) {
     output.printProblem(fmt::format("plug-ins cannot be isolated completely on this machine: {}",
                                     fmt::join(gaps, ", ")));
   Json plugins = Json::array();
-  for (auto const& [file, failure, cached] : session.getPlugins()) {
-    Json json = {{"file", file.string()}, {"read", failure.empty()}, {"cached", cached}};
-    json["failure"] = failure.empty() ? Json(nullptr) : Json(failure);
+  for (ToolSource::Plugin const& plugin : session.getPlugins()) {
+    Json json = {{"file", plugin.file.string()},
+                 {"read", plugin.failure.empty()},
+                 {"cached", plugin.cached}};
+    json["failure"] = plugin.failure.empty() ? Json(nullptr) : Json(plugin.failure);
     plugins.push_back(json);
   }
   output.printList(plugins, {"State", "Cached", "File", "Reason"},

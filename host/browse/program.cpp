@@ -57,12 +57,13 @@ ExitStatus Program::runCommand() {
   sessionOptions_.scan.progress = [&output](std::string const& text) { output.setProgress(text); };
   Session const session(sessionOptions_);
   bool partial = false;
-  for (auto const& [file, failure, cached] : session.getPlugins()) {
-    if (failure.empty())
+  for (ToolSource::Plugin const& plugin : session.getPlugins()) {
+    if (plugin.failure.empty())
       continue;
     partial = true;
-    output.printProblem(fmt::format("the plug-in \"{}\" is left out: {}{}", file.string(), failure,
-                                    cached ? "; \"plugins --retry\" tries it again" : ""));
+    output.printProblem(fmt::format("the plug-in \"{}\" is left out: {}{}", plugin.file.string(),
+                                    plugin.failure,
+                                    plugin.cached ? "; \"plugins --retry\" tries it again" : ""));
   }
 
   output.setProgress("listing");

@@ -34,6 +34,16 @@ std::vector<fs::path> findPlugins(fs::path const& directory) {
   return files;
 }
 
+/// A line for each parameter.
+std::string describe(std::vector<PluginParameter> const& parameters) {
+  std::string text;
+  for (auto const& [name, type, explanation] : parameters)
+    text +=
+        fmt::format("{}{} ({}){}{}", text.empty() ? "" : "<br>", name.empty() ? "unnamed" : name,
+                    type, explanation.empty() ? "" : ": ", explanation);
+  return text;
+}
+
 } // namespace
 
 bool hasFrei0rTools(fs::path const& directory) {
@@ -51,16 +61,27 @@ ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache,
   source.origin = directory;
   auto const scan = [&](std::vector<fs::path> const& files) { return scanPlugins(files, options); };
   std::set<std::string> categories;
+  fs::path const place = fs::absolute(directory).lexically_normal();
   for (auto& [file, result, cached] : cache.read(findPlugins(directory), options.retry, scan)) {
-    source.plugins.push_back({file, result.failure, cached});
-    if (!result.failure.empty())
+    bool const isTool = result.failure.empty();
+    source.plugins.push_back({.file = file,
+                              .place = place,
+                              .failure = result.failure,
+                              .hiddenBy = {},
+                              .cached = cached,
+                              .tool = isTool ? file.stem().string() : "",
+                              .category = result.category,
+                              .version = result.version,
+                              .parameters = result.parameters});
+    if (!isTool)
       continue;
-    ToolSource::Tool& tool = source.tools.emplace_back();
-    tool.info.name = file.stem();
     categories.insert(result.category);
-    tool.info.category = std::move(result.category);
-    tool.info.infoTexts = std::move(result.infoTexts);
-    tool.tooltip = std::move(result.tooltip);
+    std::string const origin = fmt::format("{}{}version {}", result.author,
+                                           result.author.empty() ? "" : ", ", result.version);
+    source.tools.push_back({.info = {.name = file.stem(),
+                                     .category = result.category,
+                                     .infoTexts = {result.name, result.explanation, origin}},
+                            .tooltip = describe(result.parameters)});
   }
   for (char const* const category : PluginCategories)
     if (categories.contains(category))

@@ -17,7 +17,7 @@ namespace {
 
 /// What the file starts with. The number goes up with every change of the file or of what is kept
 /// of a plug-in.
-constexpr std::string_view Format = "qvbrowse plug-ins 2";
+constexpr std::string_view Format = "qvbrowse plug-ins 3";
 
 /// What tells whether a plug-in file is still the same: its size and when it was modified. To be
 /// taken before the plug-in is read. A file that is missing has a stamp as well.

@@ -37,7 +37,7 @@ public:
     fs::path const program = options.reader.empty() ? installedReader() : options.reader;
     std::vector<std::string> arguments = {
         program, fmt::format("--processor-time={}", options.processorTime.count()),
-        fmt::format("--time={}", options.time.count())};
+        fmt::format("--time={}", options.timeout.count())};
     arguments.insert(arguments.end(), files.begin(), files.end());
     std::vector<std::string> environment;
     for (char const* const name : Environment)

@@ -12,18 +12,26 @@ namespace Qv {
 
 /// How plug-in files are read.
 struct ScanOptions {
-  /// Whether a plug-in that failed before is tried again.
+  /// Whether plug-ins that failed, in whatever run, are tried again, each once.
   bool retry = false;
-  /// Whether none is read where plug-ins cannot be closed in; see findIsolationGaps().
+  /// Whether none is read where plug-ins cannot be isolated completely; see findIsolationGaps().
   bool requireIsolation = false;
-  /// How much of a processor's time one plug-in may use.
+  /// How long reading one plug-in may take, however busy the machine is. A plug-in that takes
+  /// longer is tried again in the next run.
+  std::chrono::milliseconds timeout{30'000};
+  /// How much processor time it may use.
   std::chrono::seconds processorTime{5};
-  /// How long it may take, busy as the machine may be.
-  std::chrono::milliseconds time{30'000};
   /// The program qvreader; empty for the one installed with this program.
   std::filesystem::path reader = {};
-  /// Told what is being waited for, in a text much shorter than a line.
+  /// Told what is being waited for. The text may hold the name of a plug-in file: bytes that are to
+  /// be escaped, and cut off where they do not fit.
   std::function<void(std::string const&)> progress = [](std::string const&) {};
+  /// Told, in a sentence, what is not as the user may expect but stops nothing: a place that cannot
+  /// be read, a cache that cannot be used. The text may hold file names, to be escaped as well.
+  std::function<void(std::string const&)> notice = [](std::string const&) {};
+
+  /// Limits both times: how long a plug-in may take, and how much of that it may compute.
+  void setTimeout(std::chrono::seconds seconds) { timeout = processorTime = seconds; }
 };
 
 /// What came of plug-in files, by their absolute paths.

@@ -1,16 +1,20 @@
 #include "scanResult.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace Qv {
 
 namespace {
 
-/// All texts of a result, in the order in which they are written.
+/// The texts of a result before its parameters, in the order in which they are written.
 template <class Result> auto textsOf(Result& result) {
-  auto& [name, explanation, origin] = result.infoTexts;
-  return std::array{&result.failure, &result.category, &name,
-                    &explanation,    &origin,          &result.tooltip};
+  return std::array{&result.failure,     &result.category, &result.name,
+                    &result.explanation, &result.author,   &result.version};
+}
+
+template <class Parameter> auto textsOfParameter(Parameter& parameter) {
+  return std::array{&parameter.name, &parameter.type, &parameter.explanation};
 }
 
 } // namespace
@@ -18,19 +22,35 @@ template <class Result> auto textsOf(Result& result) {
 void ScanResult::appendTo(std::string& bytes) const {
   for (std::string const* const text : textsOf(*this))
     appendText(bytes, *text);
+  appendText(bytes, std::to_string(parameters.size()));
+  for (PluginParameter const& parameter : parameters)
+    for (std::string const* const text : textsOfParameter(parameter))
+      appendText(bytes, *text);
 }
 
 std::optional<ScanResult> ScanResult::takeFrom(std::string_view& bytes) {
   ScanResult result;
-  for (std::string* const text : textsOf(result)) {
+  bool whole = true;
+  auto const take = [&](std::string* text) {
     std::optional<std::string_view> const taken = takeText(bytes);
-    if (!taken)
-      return std::nullopt;
-    *text = *taken;
-  }
+    whole = whole && taken;
+    *text = taken.value_or("");
+  };
+  for (std::string* const text : textsOf(result))
+    take(text);
+  std::string count;
+  take(&count);
+  int parameters = -1;
+  std::from_chars(count.data(), count.data() + count.size(), parameters);
+  if (parameters < 0 || parameters > MostParameters)
+    return std::nullopt;
+  result.parameters.resize(std::size_t(parameters));
+  for (PluginParameter& parameter : result.parameters)
+    for (std::string* const text : textsOfParameter(parameter))
+      take(text);
   bool const known = std::find(PluginCategories.begin(), PluginCategories.end(), result.category) !=
                      PluginCategories.end();
-  if (result.failure.empty() && !known)
+  if (!whole || (result.failure.empty() && !known))
     return std::nullopt;
   return result;
 }

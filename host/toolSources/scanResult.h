@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Qv {
 
@@ -11,20 +12,32 @@ namespace Qv {
 inline constexpr std::array<char const*, 4> PluginCategories = {"Source", "Filter", "Mixer2",
                                                                 "Mixer3"};
 
-/// What reading one plug-in file came to.
+/// More than any plug-in has.
+inline constexpr int MostParameters = 1000;
+
+/// A parameter of a plug-in, as the plug-in describes it.
+struct PluginParameter {
+  std::string name;
+  /// "bool", "double", "color", "position", "string" or "unknown type".
+  std::string type;
+  std::string explanation;
+};
+
+/// The result of reading one plug-in file.
 struct ScanResult {
   /// Why there is no tool; empty when there is one.
-  std::string failure;
-  /// Of the tool; one of PluginCategories.
-  std::string category;
-  /// Name, explanation, and author with version, as the plug-in gives them.
-  std::array<std::string, 3> infoTexts;
-  /// A line for each parameter.
-  std::string tooltip;
+  std::string failure = {};
+  /// One of PluginCategories, when there is a tool.
+  std::string category = {};
+  std::string name = {};
+  std::string explanation = {};
+  std::string author = {};
+  std::string version = {};
+  std::vector<PluginParameter> parameters = {};
 
   /// Appends the form on the wire and in the cache: texts that each end in a zero byte.
   void appendTo(std::string& bytes) const;
-  /// Removes a result from the front of bytes that anybody may have written.
+  /// Removes a result from the front of untrusted bytes.
   /// @returns nothing when they start with anything else.
   static std::optional<ScanResult> takeFrom(std::string_view& bytes);
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hostTool.h"
+#include "scanResult.h"
 
 #include <filesystem>
 #include <string>
@@ -27,14 +28,24 @@ struct ToolSource {
     std::string tooltip;
   };
 
-  /// A plug-in file that was read, or not.
+  /// A plug-in file. It is a tool unless it failed or is hidden.
   struct Plugin {
     /// An absolute path.
     std::filesystem::path file;
-    /// Why it is left out; empty when it is not.
-    std::string failure = {};
-    /// Whether an earlier run found out.
-    bool cached = false;
+    /// The plug-in directory that it was found in, itself or in a vendor's folder.
+    std::filesystem::path place;
+    /// Why it could not be read; empty when it was, or when it is hidden.
+    std::string failure;
+    /// The plug-in file of the same name in an earlier place that is taken instead; mostly empty.
+    std::filesystem::path hiddenBy;
+    /// Whether the result comes from an earlier run.
+    bool cached;
+    /// The registry name and the category of its tool; empty when there is none.
+    std::string tool;
+    std::string category;
+    /// As the plug-in gives them; empty when it could not be read.
+    std::string version;
+    std::vector<PluginParameter> parameters;
   };
 
   /// In the order in which they are listed; the same name may come again.

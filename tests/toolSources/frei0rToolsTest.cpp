@@ -199,9 +199,9 @@ TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
   for (bool const cached : {false, true}) {
     ToolSource const source = read({.processorTime = std::chrono::seconds(1)});
     std::map<std::string, std::string> outcomes;
-    for (auto const& [file, failure, earlier] : source.plugins) {
-      outcomes[file.stem()] = failure;
-      EXPECT_EQ(earlier, cached);
+    for (ToolSource::Plugin const& plugin : source.plugins) {
+      outcomes[plugin.file.stem()] = plugin.failure;
+      EXPECT_EQ(plugin.cached, cached);
     }
     for (ToolSource::Tool const& tool : source.tools)
       outcomes[tool.info.name] = tool.info.infoTexts[1];
@@ -215,7 +215,7 @@ TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
 
 TEST_F(Frei0rTools, ThatDoNotReplyInTimeAreLeftOut) {
   install("sleep");
-  ToolSource const source = read({.time = std::chrono::milliseconds(100)});
+  ToolSource const source = read({.timeout = std::chrono::milliseconds(100)});
   EXPECT_EQ(source.plugins.at(0).failure, "no reply within 0.1 s");
 }
 

@@ -30,7 +30,7 @@ protected:
         names.push_back(plugin.filename());
         ScanResult& result = results[plugin];
         result.category = category_;
-        result.tooltip = "tip";
+        result.version = "2.10";
         result.failure = plugin == second_ ? "fails" : "";
       }
       return results;
@@ -52,7 +52,7 @@ TEST_F(PluginCacheFile, SparesTheReadingOfWhatDidNotChange) {
     EXPECT_EQ(read(), cached ? Strings() : (Strings{"first.so", "second.so"}));
     ASSERT_EQ(entries_.size(), 2U);
     EXPECT_EQ(entries_[0].plugin, first_);
-    EXPECT_EQ(entries_[0].result.tooltip, "tip");
+    EXPECT_EQ(entries_[0].result.version, "2.10");
     EXPECT_EQ(entries_[1].result.failure, "fails");
     EXPECT_EQ(entries_[0].cached, cached);
   }

@@ -29,9 +29,6 @@ constexpr Named ParameterTypes[] = {{F0R_PARAM_BOOL, "bool"},
                                     {F0R_PARAM_POSITION, "position"},
                                     {F0R_PARAM_STRING, "string"}};
 
-/// More than any plug-in has.
-constexpr int MostParameters = 1000;
-
 /// Null when the number is none of them.
 char const* nameOf(int number, std::span<Named const> all) {
   auto const found = std::find_if(all.begin(), all.end(),
@@ -46,16 +43,6 @@ std::string trimmed(char const* text) {
   result.erase(result.find_last_not_of(Blanks) + 1);
   result.erase(0, result.find_first_not_of(Blanks));
   return result;
-}
-
-std::string describe(f0r_param_info_t const& parameter) {
-  char const* const type = nameOf(parameter.type, ParameterTypes);
-  std::string text = trimmed(parameter.name);
-  if (text.empty())
-    text = "unnamed";
-  text += std::string(" (") + (type ? type : "unknown type") + ")";
-  std::string const explanation = trimmed(parameter.explanation);
-  return explanation.empty() ? text : text + ": " + explanation;
 }
 
 void* load(char const* file) {
@@ -92,19 +79,27 @@ ScanResult Frei0rPlugin::read() const {
     throw PluginError("no name");
   if (!category)
     throw PluginError("unknown type " + std::to_string(info.plugin_type));
+  if (info.color_model < F0R_COLOR_MODEL_BGRA8888 || info.color_model > F0R_COLOR_MODEL_PACKED32)
+    throw PluginError("unknown color model " + std::to_string(info.color_model));
+  if (info.frei0r_version > FREI0R_MAJOR_VERSION)
+    throw PluginError("needs version " + std::to_string(info.frei0r_version) +
+                      " of the plug-in interface, newer than " +
+                      std::to_string(FREI0R_MAJOR_VERSION));
   if (info.num_params < 0 || info.num_params > MostParameters)
     throw PluginError("claims to have " + std::to_string(info.num_params) + " parameters");
 
-  ScanResult result;
-  result.category = category;
-  std::string origin = trimmed(info.author);
-  origin += origin.empty() ? "version " : ", version ";
-  origin += std::to_string(info.major_version) + "." + std::to_string(info.minor_version);
-  result.infoTexts = {trimmed(info.name), trimmed(info.explanation), origin};
+  ScanResult result = {.category = category,
+                       .name = trimmed(info.name),
+                       .explanation = trimmed(info.explanation),
+                       .author = trimmed(info.author),
+                       .version = std::to_string(info.major_version) + "." +
+                                  std::to_string(info.minor_version)};
   for (int index = 0; index < info.num_params; ++index) {
     f0r_param_info_t parameter = {};
     getParamInfo_(&parameter, index);
-    result.tooltip += (index == 0 ? "" : "<br>") + describe(parameter);
+    char const* const type = nameOf(parameter.type, ParameterTypes);
+    result.parameters.push_back(
+        {trimmed(parameter.name), type ? type : "unknown type", trimmed(parameter.explanation)});
   }
   return result;
 }
