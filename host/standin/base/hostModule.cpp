@@ -4,6 +4,7 @@
 #include "hostPackageManager.h"
 #include "typeName.h"
 
+#include <boost/dll/runtime_symbol_info.hpp>
 #include <boost/dll/shared_library.hpp>
 #include <cxxabi.h>
 #include <dlfcn.h>
@@ -36,27 +37,33 @@ boost::dll::shared_library loadLibrary(std::filesystem::path const& file) {
 } // namespace
 
 HostModule::HostModule(std::filesystem::path const& file) {
-  HostPackageManager& manager = HostPackageManager::getInstance();
-  std::size_t const before = manager.getPackages().size();
   try {
     library_ = std::make_unique<boost::dll::shared_library>(loadLibrary(file));
   } catch (HostError const& error) {
     throw HostError("cannot load the module \"" + file.string() + "\": " + error.what());
   }
 
+  HostPackageManager& manager = HostPackageManager::getInstance();
   manager.throwLoadFailure();
-  Vector<InPackageInit*> const& packages = manager.getPackages();
-  if (packages.size() == before)
-    throw HostError("the module \"" + file.string() + "\" registers no package");
+  Vector<InPackageInit*> own;
   std::set<std::string_view> names;
-  for (std::size_t index = 0; index < packages.size(); ++index)
-    if (!names.insert(packages[index]->getName()).second && index >= before)
+  for (InPackageInit* const package : manager.getPackages()) {
+    std::error_code outsideOfFiles;
+    if (boost::dll::symbol_location_ptr(package, outsideOfFiles) == library_->location())
+      own.push_back(package);
+    else
+      names.insert(package->getName());
+  }
+  if (own.empty())
+    throw HostError("the module \"" + file.string() + "\" registers no package");
+  for (InPackageInit const* const package : own)
+    if (!names.insert(package->getName()).second)
       throw HostError("the module \"" + file.string() + "\" registers a package \"" +
-                      packages[index]->getName() + "\", which exists already");
+                      package->getName() + "\", which exists already");
 
   try {
-    for (std::size_t index = before; index < packages.size(); ++index)
-      manager.initialize(*packages[index]);
+    for (InPackageInit* const package : own)
+      manager.initialize(*package);
   } catch (std::exception const&) {
     manager.uninitializeAll();
     throw;
