@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-/// Thrown when an invariant of the program is broken.
+/// Thrown when a program invariant is broken.
 class QV_EXPORT ExProgramAborted : public ExBase {
 public:
   ExProgramAborted(char const* file, int line, char const* message);
@@ -14,7 +14,7 @@ public:
 
   std::string const& getFile() const { return file_; }
   int getLine() const { return line_; }
-  /// The message as thrown; null when there is none.
+  /// Null if thrown without a message.
   char const* getMessage() const { return message_ ? message_->c_str() : nullptr; }
 
 private:
@@ -26,8 +26,7 @@ private:
 /// Reports a broken invariant.
 class QV_EXPORT Assertions {
 public:
-  /// @throws ExProgramAborted always. @param file the source file. @param line the line in it.
-  /// @param message what is broken; may be null.
+  /// @throws ExProgramAborted always. @param message may be null.
   [[noreturn]] static void throwProgramAborted(char const* file, int line, char const* message);
 };
 

@@ -7,7 +7,7 @@
 
 namespace Qv {
 
-/// Base of the base library's exceptions.
+/// Base class of the library's exceptions.
 class QV_EXPORT ExBase : public std::exception {
 public:
   /// @param what one sentence for users.

@@ -1,7 +1,7 @@
 #pragma once
 
-// Sequences cross an interface as Iterator<T>, a value that shares its engine until it moves.
-// The usual loop costs no clone, since the one iterator of the loop holds its engine alone:
+// Sequences cross an interface as Iterator<T>, a value whose engine is copied on write. The usual
+// loop never clones, because nobody else shares its engine:
 //
 //   for (Iterator<T> it = sequence(); !it.atEnd(); it.next())
 //     use(it.item());
@@ -15,10 +15,10 @@
 
 namespace Qv {
 
-/// Counting pointer to an iterator engine.
+/// Shared pointer to an iterator engine.
 template <class E> class QV_EXPORT RCPvtEngPtr : public RCShdPtr<E> {
 public:
-  /// Takes a reference on `engine`, which may be null.
+  /// Takes a reference to `engine`, which may be null.
   explicit RCPvtEngPtr(E* engine = nullptr) noexcept : RCShdPtr<E>(engine) {}
   RCPvtEngPtr(RCPvtEngPtr const& other) noexcept = default;
   RCPvtEngPtr& operator=(RCPvtEngPtr const& other) noexcept = default;
@@ -26,51 +26,51 @@ public:
   ~RCPvtEngPtr();
 };
 
-// An instance exports a defaulted destructor only when it is defaulted outside the class.
+// A template instance exports a defaulted destructor only if it is defaulted out of class.
 template <class E> inline RCPvtEngPtr<E>::~RCPvtEngPtr() = default;
 
-/// An iterator engine: a position in a sequence of `T`.
+/// Iterator engine: a position in a sequence of `T`.
 template <class T> class QV_EXPORT IteratorImp : public RCBase<LkCounter<int>> {
 protected:
   ~IteratorImp() override;
 
 public:
-  /// Whether both stand on the same element or both at the end.
-  /// @throws std::bad_cast when `other` is an engine of another kind.
+  /// Whether both are at the same element, or both at the end.
+  /// @throws std::bad_cast if `other` is of another class.
   virtual bool isEqual(IteratorImp const& other) const = 0;
-  /// The element at the position, which must not be the end.
+  /// @{
+  /// The current element; undefined at the end.
   virtual T const& item() const = 0;
-  /// The element at the position, to be changed; the position must not be the end.
   virtual T& item() = 0;
-  /// Goes to the first element, or to the end when there is none.
+  /// @}
+  /// Moves to the first element, or to the end of an empty sequence.
   virtual void first() = 0;
-  /// Goes to the last element, or to the end when there is none.
+  /// Moves to the last element, or to the end of an empty sequence.
   virtual void last() = 0;
-  /// Goes behind the last element.
+  /// Moves past the last element.
   virtual void end() = 0;
-  /// Whether the position is behind the last element.
   virtual bool atEnd() const = 0;
-  /// Whether the position is the first element, or the end when there is none.
+  /// Whether the position is the first element, or the end of an empty sequence.
   virtual bool atBegin() const = 0;
-  /// @throws IteratorEx::ExOutOfRange at the end, and stays there.
+  /// @throws IteratorEx::ExOutOfRange at the end; the position does not change.
   virtual void next() = 0;
-  /// @throws IteratorEx::ExOutOfRange at the first element, and stays there.
+  /// @throws IteratorEx::ExOutOfRange at the first element; the position does not change.
   virtual void previous() = 0;
-  /// The number of elements, whatever the position.
+  /// The number of elements, regardless of position.
   virtual int getCardinality() const = 0;
-  /// A new engine at the same position, with count 0.
+  /// A new engine at the same position, with reference count 0.
   virtual IteratorImp* clone() const = 0;
 };
 
 template <class T> inline IteratorImp<T>::~IteratorImp() = default;
 
-// The standard iterator base is deprecated, yet part of the layout and of the type's identity.
+// std::iterator is deprecated, but part of the class layout and of the type info.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
-/// A bidirectional iterator over any engine, whose operations it calls. Copies share the engine;
-/// whatever moves or hands out a modifiable element first makes it exclusive. Every operation but
-/// copying and destruction throws ExNullPtr when there is no engine.
+/// Bidirectional iterator that delegates to an engine. Copies share the engine; moving, and access
+/// to a modifiable element, clone a shared engine first. Every operation except copying and
+/// destruction throws ExNullPtr if the engine is null.
 template <class T>
 class QV_EXPORT Iterator
     : public std::iterator<std::bidirectional_iterator_tag, T, std::int64_t, T*, T&> {
@@ -82,7 +82,7 @@ public:
   virtual ~Iterator();
 
   /// @{
-  /// The element at the position, which must not be the end.
+  /// The current element; undefined at the end.
   virtual T const* operator->() const { return std::addressof(engine().item()); }
   virtual T* operator->() { return std::addressof(exclusive().item()); }
   virtual T const& item() const { return engine().item(); }
@@ -115,14 +115,14 @@ public:
   }
   virtual int getCardinality() const { return engine().getCardinality(); }
 
-  /// An iterator that stays at the old position.
+  /// Returns an iterator at the old position.
   virtual Iterator operator++(int) {
     Iterator old(*this);
     next();
     return old;
   }
   virtual Iterator& operator++() { return next(); }
-  /// An iterator that stays at the old position.
+  /// Returns an iterator at the old position.
   virtual Iterator operator--(int) {
     Iterator old(*this);
     previous();
@@ -133,7 +133,7 @@ public:
 private:
   IteratorImp<T> const& engine() const { return *engine_; }
 
-  /// The engine, held by this iterator alone.
+  /// The engine, cloned first if it is shared.
   IteratorImp<T>& exclusive() {
     IteratorImp<T>& engine = *engine_;
     if (engine.getRefCount() != 1) [[unlikely]]
@@ -141,7 +141,7 @@ private:
     return engine;
   }
 
-  /// Replaces the engine by a clone of it. Kept out of the moves that every step of a walk inlines.
+  /// Replaces the engine with a clone. Not inlined, to keep the steps of a loop small.
   [[gnu::noinline]] IteratorImp<T>& unshare() {
     RCPvtEngPtr<IteratorImp<T>> clone(engine_->clone());
     if (!clone)

@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// Base of the exceptions that iterators raise.
+/// Base class of the iterators' exceptions.
 class QV_EXPORT IteratorEx : public ExBase {
 public:
   class ExOutOfRange;
@@ -25,7 +25,6 @@ private:
 /// Thrown when an iterator would leave its sequence.
 class QV_EXPORT IteratorEx::ExOutOfRange : public IteratorEx {
 public:
-  /// @param file the source file that throws. @param line the line in it.
   ExOutOfRange(char const* file, int line);
   ~ExOutOfRange() override;
 };

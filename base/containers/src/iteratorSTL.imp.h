@@ -14,17 +14,16 @@ struct QV_EXPORT IteratorAccessorPassthrough {
   template <class T> static T& access(T& element) { return element; }
 };
 
-/// Engine over a List or Vector that it shares with its clones. The container must be complete
-/// before the engine is made and must not change afterwards.
-/// @tparam StrongPtr the pointer that shares the container, `RCStrongPtr<Container>`.
-/// @tparam Accessor turns the stored element into the one that is yielded.
+/// Engine over a List or Vector that it shares with its clones. The container must not grow or
+/// shrink once the engine exists.
+/// @tparam StrongPtr a shared pointer to the container, for instance `RCStrongPtr<Container>`.
+/// @tparam Accessor maps a stored element to the one that is yielded.
 template <class Container, class StrongPtr, class Accessor>
 class QV_EXPORT IteratorSTL final : public IteratorImp<typename Container::value_type> {
 public:
   using Element = typename Container::value_type;
 
-  /// Stands on the first element. @param container owns the container.
-  /// @throws ExNullPtr when there is none.
+  /// Starts at the first element. @throws ExNullPtr if `container` is null.
   explicit IteratorSTL(StrongPtr const& container)
       : container_(container), position_(container_->begin()) {}
 
@@ -32,7 +31,7 @@ protected:
   ~IteratorSTL() override;
 
 public:
-  /// The containers are not compared. @throws std::bad_cast when `other` is of another class.
+  /// All ends are equal. @throws std::bad_cast if `other` is of another class.
   bool isEqual(IteratorImp<Element> const& other) const override {
     auto const& engine = dynamic_cast<IteratorSTL const&>(other);
     if (atEnd() || engine.atEnd())
@@ -76,10 +75,10 @@ public:
 private:
   IteratorSTL(IteratorSTL const&) = default;
 
-  /// Unchecked: the constructor refuses null.
+  /// Unchecked: the constructor rejects null.
   Container& container() const { return *container_.get(); }
 
-  /// Path and lines are part of the interface: handlers may look at them.
+  /// Path and line numbers are part of the interface: handlers may check them.
   [[noreturn]] static void throwOutOfRange(int line) {
     throw IteratorEx::ExOutOfRange(".\\base/containers/src/iteratorSTL.imp.h", line);
   }
@@ -91,8 +90,8 @@ private:
 template <class Container, class StrongPtr, class Accessor>
 inline IteratorSTL<Container, StrongPtr, Accessor>::~IteratorSTL() = default;
 
-/// An iterator over a container that it shares; it stands on the first element.
-/// @throws ExNullPtr when there is no container.
+/// An iterator at the first element of `container`, which it shares.
+/// @throws ExNullPtr if `container` is null.
 template <class Container>
 Iterator<typename Container::value_type> makeIterator(RCStrongPtr<Container> const& container) {
   using Element = typename Container::value_type;

@@ -1,6 +1,5 @@
 #pragma once
 
-/// Marks what a library or module shows to others: everything is built with hidden visibility.
-/// A type also needs the mark when it is an argument of an exported template instance; g++ drops
-/// such an instance from the exports without a word when one of its arguments is hidden.
+/// Exports a symbol; everything else has hidden visibility. The argument types of an exported
+/// template instance need it too: g++ silently hides an instance with a hidden argument.
 #define QV_EXPORT __attribute__((visibility("default")))

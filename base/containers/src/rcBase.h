@@ -1,13 +1,13 @@
 #pragma once
 
 // Intrusive reference counting: the count lives in the object, so any raw pointer to a counted
-// object can become a counting pointer again, and one allocation serves object and count.
+// object can become a counting pointer again, and one allocation holds both.
 //
-//   RCShdPtr<Item> a(new Item);   // The count goes from 0 to 1.
+//   RCShdPtr<Item> a(new Item);   // count 1
 //   RCShdPtr<Item> b = a;         // 2
-//   a = RCShdPtr<Item>(b.get());  // 2: the pointers are equal, so nothing happens to a.
+//   a = RCShdPtr<Item>(b.get());  // 2: equal pointers, no change
 //   b = RCShdPtr<Item>();         // 1
-//   a = RCShdPtr<Item>();         // 0: the item is deleted.
+//   a = RCShdPtr<Item>();         // 0: the item is deleted
 
 #include "qvExport.h"
 
@@ -16,38 +16,33 @@
 
 namespace Qv {
 
-/// A counter that several threads may change. All operations are sequentially consistent; the
-/// decrement that ends a life must see every write made through the other pointers before.
+/// Atomic counter. All operations are sequentially consistent; the decrement to 0 must see every
+/// earlier write made through the other pointers.
 template <class T> class QV_EXPORT LkCounter {
 public:
-  /// Returns the value before the change.
   T operator++(int) noexcept { return value_.fetch_add(1, std::memory_order_seq_cst); }
-  /// Returns the value before the change.
   T operator--(int) noexcept { return value_.fetch_sub(1, std::memory_order_seq_cst); }
-  /// Returns the value after the change.
   T operator--() noexcept { return (*this)-- - 1; }
 
-  /// The value at this moment.
   operator T() const noexcept { return value_.load(std::memory_order_seq_cst); }
 
 private:
   std::atomic<T> value_{0};
 };
 
-/// Base of every counted object. It must be the first base, so that the address of an object is
-/// the address of its RCBase.
+/// Base class of every counted object. It must be the first base, so that both have one address.
 /// @tparam Counter `LkCounter<int>`, or `int` for objects that stay on one thread.
 ///
-/// Both instances are built into the base library, so that everyone shares their identity. The
-/// counting is always inlined: of the instances, others import only destructor and identity.
+/// Both instances are built into the base library, so that everyone shares their type info.
+/// Counting is always inlined; clients import only the destructor and the type info.
 template <class Counter> class QV_EXPORT RCBase {
 public:
   [[gnu::always_inline]] void acquire() const noexcept { count_++; }
 
-  /// Gives one reference back. With the last one the object is deleted.
+  /// Drops a reference; deletes the object with the last one.
   [[gnu::always_inline]] void release() const noexcept {
     assert(count_ > 0);
-    // Compared with 0, a plain count takes one instruction less.
+    // Comparing with 0 saves an instruction with a plain count.
     if (--count_ == 0)
       delete this;
   }
@@ -58,9 +53,9 @@ public:
 
 protected:
   RCBase() noexcept = default;
-  /// A copy is a new object that nobody holds yet.
+  /// A copy starts without references.
   [[gnu::always_inline]] RCBase(RCBase const& /*other*/) noexcept {}
-  /// The references belong to the objects, not to their values: both counts stay.
+  /// References belong to objects, not to values: both counts are unchanged.
   RCBase& operator=(RCBase const& /*other*/) noexcept { return *this; }
   virtual ~RCBase();
 
@@ -69,7 +64,7 @@ private:
 };
 
 template <class Counter> inline RCBase<Counter>::~RCBase() {
-  assert(count_ == 0 && "deleted while it is held");
+  assert(count_ == 0 && "deleted while referenced");
 }
 
 extern template class QV_EXPORT RCBase<LkCounter<int>>;

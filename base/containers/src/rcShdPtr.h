@@ -1,7 +1,7 @@
 #pragma once
 
-// The shared pointer to counted objects. It is one raw pointer wide; copying costs one increment
-// of the count in the pointee. Use it for whatever derives from RCBase, RCStrongPtr for the rest.
+// Shared pointer to counted objects: as wide as a raw pointer, and one increment per copy. Use it
+// for classes derived from RCBase, and RCStrongPtr for the rest.
 
 #include "rcBase.h"
 #include "rcExUtil.h"
@@ -17,7 +17,7 @@ namespace Qv {
 /// The raw pointer behind RCShdPtr, and its diagnostic text.
 template <class T> class QV_EXPORT RCBasePtr {
 public:
-  /// Writes the dynamic type, `T`, the count and both addresses, without a line end.
+  /// Writes the dynamic type, `T`, the count and the addresses, without a newline.
   void dump(std::ostream& os) const {
     void const* const rcBase = ptr_ ? ptr_->asRCBase() : nullptr;
     os << "Pointee type = " << (ptr_ ? typeName(typeid(*ptr_)) : "null")
@@ -32,16 +32,15 @@ protected:
   RCBasePtr& operator=(RCBasePtr const&) noexcept = default;
   ~RCBasePtr() = default;
 
-  /// Null when there is no object.
   T* ptr_;
 };
 
-/// Shared pointer to an object that derives from an RCBase.
+/// Shared pointer to an object derived from RCBase.
 template <class T> class QV_EXPORT RCShdPtr : public RCBasePtr<T> {
   template <class U> friend class RCShdPtr;
 
 public:
-  /// Takes a reference on `ptr`, which may be null.
+  /// Takes a reference to `ptr`, which may be null.
   explicit RCShdPtr(T* ptr = nullptr) noexcept : RCBasePtr<T>(ptr) { acquire(); }
   RCShdPtr(RCShdPtr const& other) noexcept : RCBasePtr<T>(other) { acquire(); }
   RCShdPtr(RCShdPtr&& other) noexcept : RCBasePtr<T>(std::exchange(other.ptr_, nullptr)) {}
@@ -49,7 +48,7 @@ public:
   /// Converts to a base class or to const.
   template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
   RCShdPtr(RCShdPtr<U> const& other) noexcept : RCShdPtr(other.get()) {}
-  /// Hands the reference over, which leaves `other` null.
+  /// Transfers the reference and leaves `other` null.
   template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
   RCShdPtr(RCShdPtr<U>&& other) noexcept : RCBasePtr<T>(std::exchange(other.ptr_, nullptr)) {}
 
@@ -70,25 +69,25 @@ public:
     return *this;
   }
 
-  /// The pointee. @throws ExNullPtr when there is none.
+  /// @throws ExNullPtr if null.
   T& operator*() const {
     if (!this->ptr_)
       RCExUtil::throwExNullPtrOf<T*>();
     return *this->ptr_;
   }
-  /// The pointee. @throws ExNullPtr when there is none.
+  /// @throws ExNullPtr if null.
   T* operator->() const { return &**this; }
 
-  /// The raw pointer, which may be null and carries no reference.
+  /// Takes no reference; may be null.
   T* get() const noexcept { return this->ptr_; }
   explicit operator bool() const noexcept { return this->ptr_ != nullptr; }
 
-  /// The pointee as a `U`, or null when it is none.
+  /// Null if the pointee is not a `U`.
   template <class U> RCShdPtr<U> dynamicCast() const noexcept {
     return RCShdPtr<U>(dynamic_cast<U*>(this->ptr_));
   }
 
-  /// The pointee as a `U`; null stays null. @throws ExCastFailed when it is of another class.
+  /// Null stays null. @throws ExCastFailed if the pointee is not a `U`.
   template <class U> RCShdPtr<U> checkedCast() const {
     RCShdPtr<U> result = dynamicCast<U>();
     if (this->ptr_ && !result)

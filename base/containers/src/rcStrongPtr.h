@@ -1,7 +1,7 @@
 #pragma once
 
-// Shared ownership of objects that carry no count of their own, such as containers: the counts
-// live in a block beside the pointee. The block has a count of its own, so it may outlive it.
+// Shared ownership of objects without a count of their own, such as containers: the counts live
+// in a separate block, which is itself counted and may outlive the pointee.
 
 #include "rcShdPtr.h"
 
@@ -9,12 +9,12 @@
 
 namespace Qv {
 
-/// The count block: how many pointers hold the block (RCBase), and how many of them keep the
-/// pointee alive (the strong count).
+/// The count block: RCBase counts the pointers to the block, the strong count those that keep the
+/// pointee alive.
 template <class Counter> class QV_EXPORT RCSWCount : public RCBase<Counter> {
 public:
   void acquireStrong() noexcept { strong_++; }
-  /// @returns whether it was the last one.
+  /// @returns whether it was the last strong reference.
   bool releaseStrong() noexcept { return strong_-- == 1; }
   int getStrongCount() const noexcept { return strong_; }
 
@@ -25,11 +25,11 @@ private:
   Counter strong_{};
 };
 
-/// Strong pointer to a `T` that has no RCBase.
-/// Invariant: the count block is null exactly when the pointee is null.
+/// Shared pointer to a `T` without an RCBase.
+/// Invariant: the count block is null if and only if the pointee is.
 template <class T, class Counter> class QV_EXPORT RCStrongBasePtr {
 public:
-  /// Takes over `ptr`, which may be null. @throws std::bad_alloc after deleting `ptr`.
+  /// Takes ownership of `ptr`, which may be null. @throws std::bad_alloc after deleting `ptr`.
   explicit RCStrongBasePtr(T* ptr = nullptr) : ptr_(nullptr) {
     if (ptr) {
       std::unique_ptr<T> owner(ptr);
@@ -39,7 +39,7 @@ public:
     }
   }
   RCStrongBasePtr(RCStrongBasePtr const& other) : ptr_(nullptr) { assign(other); }
-  /// The pointee's destructor finds this pointer null.
+  /// The pointee's destructor sees this pointer as null.
   ~RCStrongBasePtr() {
     T* const ptr = std::exchange(ptr_, nullptr);
     RCShdPtr<Block> const block = std::move(block_);
@@ -53,29 +53,29 @@ public:
     return *this;
   }
 
-  /// The pointee. @throws ExNullPtr when there is none.
+  /// @throws ExNullPtr if null.
   T& operator*() const {
     if (!ptr_)
       RCExUtil::throwExNullPtrOf<T*>();
     return *ptr_;
   }
-  /// The pointee. @throws ExNullPtr when there is none.
+  /// @throws ExNullPtr if null.
   T* operator->() const { return &**this; }
 
-  /// The raw pointer, which may be null and carries no reference.
+  /// Takes no reference; may be null.
   T* get() const noexcept { return ptr_; }
   explicit operator bool() const noexcept { return ptr_ != nullptr; }
-  /// How many strong pointers share the pointee; 0 for null.
+  /// The number of strong pointers to the pointee; 0 for null.
   int getStrongCount() const noexcept { return block_ ? block_->getStrongCount() : 0; }
 
 protected:
-  /// Shares the pointee of `other`. @throws ExNullPtr when `other` lacks its count block; this
-  /// pointer is null then.
+  /// Shares the pointee of `other`. @throws ExNullPtr if `other` has no count block; this
+  /// pointer is then null.
   void assign(RCStrongBasePtr const& other) {
     if (ptr_ == other.ptr_ && block_ == other.block_)
       return;
-    // The old pointee goes last, when this pointer already holds the new one: `other` may live
-    // inside it, and its destructor may look at this pointer or assign to it.
+    // The old pointee is released last: `other` may be a part of it, and its destructor may read
+    // this pointer or assign to it.
     RCStrongBasePtr old;
     std::swap(old.ptr_, ptr_);
     std::swap(old.block_, block_);
@@ -102,7 +102,7 @@ public:
   ~RCStrongPtr();
 };
 
-// An instance exports a defaulted destructor only when it is defaulted outside the class.
+// A template instance exports a defaulted destructor only if it is defaulted out of class.
 template <class T> inline RCStrongPtr<T>::~RCStrongPtr() = default;
 
 } // namespace Qv

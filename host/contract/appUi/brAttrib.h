@@ -10,27 +10,26 @@ namespace Qv {
 /// A column of the browser's list view.
 class QV_EXPORT BrAttrib : public RCBase<LkCounter<int>> {
 public:
-  /// Flags of a column; the module passes the numbers 0 to 9.
+  /// Column flags; the module passes 0 to 9.
   enum AttribAttributes : int {};
 
   /// @{
-  /// The limits of a column without limits of its own, in pixels.
+  /// Default limits of the width, in pixels.
   static int const DEFAULT_MIN_WIDTH;
   static int const DEFAULT_MAX_WIDTH;
   /// @}
 
   /// A column titled `name` that shows the attribute `attributeId` of each item.
   /// @param dataType BrBrowsable::ICON or BrBrowsable::STRING.
-  /// @param minWidth in pixels, as is `maxWidth`.
+  /// @param minWidth in pixels, like `maxWidth`.
   static RCShdPtr<BrAttrib> create(LiString const& name, unsigned int attributeId,
                                    unsigned int dataType, int minWidth, int maxWidth,
                                    AttribAttributes first, AttribAttributes second,
                                    AttribAttributes third, AttribAttributes fourth,
                                    AttribAttributes fifth);
 
-  /// Sets the current width in pixels.
+  /// Sets the current width, in pixels.
   int setCurrentW(int width);
-  /// Shows or hides the column.
   void setDisplayed(bool displayed);
 
   /// @name Stand-in only
@@ -46,7 +45,7 @@ public:
   /// @}
 
   /// @{
-  /// The host's own; the module sets them.
+  /// Host fields that the module sets.
   bool auxFlag = true;
   LiString auxText = "none";
   /// @}

@@ -10,15 +10,14 @@ namespace Qv {
 /// The columns of a scheme, in order.
 class QV_EXPORT BrAttribList : public RCBase<LkCounter<int>> {
 public:
-  /// Adds a column after the existing ones.
   void append(RCShdPtr<BrAttrib> const& attrib);
-  /// Sorts the list by one attribute alone.
+  /// Sorts by this attribute only.
   void singleSort(int attributeId);
 
   /// @name Stand-in only
   /// @{
   Vector<RCShdPtr<BrAttrib>> const& getAttribs() const { return attribs_; }
-  /// The attribute that the list is sorted by, if any.
+  /// The sort attribute, if any.
   std::optional<int> getSortKey() const { return sortKey_; }
   /// @}
 

@@ -23,15 +23,15 @@ class VpPlayer;
 /// An item of the asset browser.
 class QV_EXPORT BrBrowsable : public RCBase<LkCounter<int>> {
 public:
-  /// Value 2 asks for the items at the scheme's item depth alone, any other for all children.
+  /// 2 selects only items at the scheme's item depth, any other value all children.
   enum FindFilter : int {};
-  /// Value 1 asks for children that are containers themselves, any other for any children.
+  /// 1 selects only children that are containers, any other value all children.
   enum ChildSearchType : int {};
-  /// The module does not look at it.
+  /// Ignored by the module.
   enum ChildSearchOption : int {};
 
   /// @{
-  /// The id of an attribute.
+  /// Attribute ids.
   static unsigned int const& NAME;
   static unsigned int const& BROWSABLE_TYPE;
   static unsigned int const& ROOT_NAME;
@@ -43,24 +43,23 @@ public:
   /// @}
 
   /// @{
-  /// The data type of a column.
+  /// Column data types.
   static unsigned int const& ICON;
   static unsigned int const& STRING;
   /// @}
 
-  /// Shown for a value that an item does not have.
+  /// Shown for a value that an item lacks.
   static LiString const NotAvailableString;
 
 protected:
   ~BrBrowsable() override;
 
 public:
-  /// The name of the scheme that the item belongs to.
   virtual LiString const& getSchemeName() const = 0;
   /// The path from which the scheme makes an equal item.
   virtual LiString getPath() const = 0;
   /// @{
-  /// Writes an attribute. The host ignores what the class of the item does not store.
+  /// Writes an attribute. The default ignores it.
   virtual void set(int attributeId, int index, CoRgbColorTyped<float> const& value);
   virtual void set(int attributeId, CoRgbColorTyped<float> const& value);
   virtual void set(int attributeId, float value);
@@ -69,8 +68,7 @@ public:
   virtual void set(int attributeId, LiString const& value);
   /// @}
   /// @{
-  /// Reads an attribute into `value`. For one that the class of the item does not give, the host
-  /// has an answer of its own.
+  /// Reads an attribute into `value`. The host has a default for those that the class lacks.
   virtual void get(int attributeId, int index, CoRgbColorTyped<float>* value);
   virtual void get(int attributeId, CoRgbColorTyped<float>* value);
   virtual void get(int attributeId, float* value);
@@ -81,17 +79,17 @@ public:
   virtual void get(int attributeId, LiString* value);
   /// @}
   /// @{
-  /// Times and dates; the module leaves these to the host.
+  /// Not overridden by the module.
   virtual void setDtTime(int attributeId, DtTime const& value);
   virtual void getDtTime(int attributeId, DtTime* value);
   virtual void getDate(int attributeId, LiDate* value);
   /// @}
-  /// The image of that id, for instance THUMBNAIL; null when there is none. @param size in pixels.
+  /// The image `imageId`, for instance THUMBNAIL, or null. @param size in pixels.
   virtual RCShdPtr<WsManagedImage> getImage(int imageId, GeVector2<int> const& size);
-  /// The text shown when the pointer rests on the item; "<br>" separates lines.
+  /// "<br>" separates the lines.
   virtual std::string getTooltip(int attributeId) const;
   /// @{
-  /// Loading in the background; an item that has all at hand leaves these to the host.
+  /// Background loading; not overridden by the module, whose items have everything at hand.
   virtual bool areDetailsLoaded() const;
   virtual bool isThumbnailLoaded() const;
   virtual bool wasInterrupted() const;
@@ -100,34 +98,31 @@ public:
   virtual void cancelDetailsRequest();
   virtual void cancelThumbnailRequest();
   /// @}
-  /// Called after a click on an attribute of the item.
+  /// Called when a user clicks an attribute.
   virtual void notifyClick(int attributeId);
-  /// Whether users may change the attribute.
   virtual bool isAttributeEditable(int attributeId) const;
   virtual bool isAContainer() const = 0;
-  /// Whether there are children, or children that are containers themselves, without listing them.
+  /// Whether there are children of that type; does not list them.
   virtual bool hasChildren(ChildSearchType type, ChildSearchOption option) const = 0;
   /// @{
-  /// Whether the item has a colour of its own; the module leaves these to the host.
+  /// Not overridden by the module.
   virtual bool hasSpecialBgColor() const;
   virtual bool hasSpecialFgColor() const;
   /// @}
   /// A new query over the children; the item must outlive it.
   virtual RCShdPtr<BrChildrenQuery> getChildren(FindFilter filter) = 0;
   virtual LiString getTypeName() const;
-  /// Whether both stand for the same thing.
+  /// Whether both represent the same object.
   virtual bool isEqualTo(BrBrowsable const& other) const = 0;
-  /// Appends the selection items that stand for this item.
+  /// Appends the selection items that represent this item.
   virtual void appendSelection(List<RCShdPtr<SnItem const>>& items);
-  /// Whether the selection holds the item.
   virtual bool isSelected(RCShdPtr<SnSelection> const& selection) const;
   virtual bool isPicklistable() const;
-  /// Whether the selection holds a child of the item.
   virtual bool isAnyChildSelected(RCShdPtr<SnSelection> const& selection) const;
   /// Called when the item is selected or deselected.
   virtual void select(bool selected);
   /// @{
-  /// The module leaves these to the host.
+  /// Not overridden by the module.
   virtual bool supportsSequence();
   virtual LiString getUniqueId();
   virtual RCShdPtr<BrThumbnailDetailList> getThumbnailDetails();
@@ -142,13 +137,13 @@ public:
   /// @}
 
 protected:
-  /// The module leaves this to the host.
+  /// Not overridden by the module.
   virtual RCShdPtr<BrThumbnailDetailList> getNonCachedThumbnailDetails();
 
 public:
   /// An item of `server`, which is not owned and must outlive the item.
   explicit BrBrowsable(BrServer* server);
-  /// A type prototype, without server.
+  /// A type prototype, without a server.
   BrBrowsable();
 
   /// Null for a type prototype.

@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// A browser on the screen.
+/// A browser on screen.
 class QV_EXPORT BrBrowser : public RCBase<LkCounter<int>> {
 public:
   /// @name Stand-in only

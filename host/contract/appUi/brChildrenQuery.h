@@ -6,7 +6,7 @@ namespace Qv {
 
 class BrBrowsable;
 
-/// Enumerates the children of an item, sequence by sequence, until an empty one.
+/// Enumerates an item's children in sequences, up to an empty one.
 class QV_EXPORT BrChildrenQuery : public RCBase<LkCounter<int>> {
 protected:
   ~BrChildrenQuery() override;
@@ -15,15 +15,13 @@ public:
   /// @param parent is not owned and must outlive the query.
   explicit BrChildrenQuery(BrBrowsable* parent);
 
-  /// Starts the enumeration anew.
+  /// Restarts the enumeration.
   virtual void reset() = 0;
-  /// The next children; empty when there are no more.
+  /// The next children; empty if there are no more.
   virtual Iterator<RCShdPtr<BrBrowsable>> getNextChildSequence() = 0;
 
   /// @name Stand-in only
   /// @{
-
-  /// The item whose children are enumerated.
   BrBrowsable* getParent() const { return parent_; }
   /// @}
 

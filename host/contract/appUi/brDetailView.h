@@ -8,36 +8,35 @@ namespace Qv {
 
 template <class Event> class CbHandler;
 
-/// A page of the browser that shows one item in detail.
+/// A browser page that shows one item in detail.
 class QV_EXPORT BrDetailView : public BrView {
 public:
   ~BrDetailView() override;
-  /// The module leaves this to the host.
+  /// Not overridden by the module.
   virtual void setFullScreenHandler(CbHandler<EvEvent>* handler);
-  /// Adds the page with the information about the item.
+  /// Adds the page with the item's information.
   virtual void setDetailInfo() = 0;
-  /// The module leaves this to the host.
+  /// Not overridden by the module.
   virtual RCShdPtr<VpPlayer> const getMiniPlayer() const;
 
-  /// Loads the resource table from `resourceFile`. @param name names the view.
-  /// @throws ExBase when the file is missing or has a fault.
+  /// Loads the resource table from `resourceFile`.
+  /// @throws ExBase if the file is missing or malformed.
   BrDetailView(LiString const& name, OsFilePath const& resourceFile);
 
-  /// Adds a page under a title.
   void addDetailInfoPage(RCShdPtr<UiWidget> page, LiString const& title);
-  /// Installs the pane that shows the item's icon.
+  /// Sets the pane that shows the item's icon.
   void setIconPane(RCShdPtr<UiPane> pane);
 
   /// @name Stand-in only
   /// @{
 
-  /// A page with its title.
+  /// A page and its title.
   struct Page {
     LiString title;
     RCShdPtr<UiWidget> widget;
   };
   LiString const& getName() const { return name_; }
-  /// In the order in which they were added.
+  /// In the order added.
   Vector<Page> const& getPages() const { return pages_; }
   RCShdPtr<UiPane> const& getIconPane() const { return iconPane_; }
   /// @}

@@ -9,8 +9,7 @@ class QV_EXPORT BrDndRegistry {
 public:
   static BrDndRegistry& getInstance();
 
-  /// Attaches a handler to the class of items that the prototype `type` stands for. The module does
-  /// not look at the result.
+  /// Adds a handler for items of the prototype's class. The module ignores the result.
   bool addHandler(RCShdPtr<BrBrowsable> const& type, RCShdPtr<BrDndHandler> const& handler);
 };
 

@@ -10,10 +10,9 @@ protected:
   ~BrNode() override;
 
 public:
-  /// The item, which may be null.
+  /// May be null.
   virtual RCShdPtr<BrBrowsable> const& getBrowsable() const = 0;
 
-  /// Wraps an item.
   static RCShdPtr<BrNode> create(RCShdPtr<BrBrowsable> const& browsable);
 };
 

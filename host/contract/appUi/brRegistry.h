@@ -5,11 +5,11 @@
 
 namespace Qv {
 
-/// The registry of the asset browser.
+/// The asset browser's registry.
 class QV_EXPORT BrRegistry {
 public:
   /// @{
-  /// The key of a standard thumbnail of the host.
+  /// Keys of the host's standard thumbnails.
   static LiString const FolderThumbnail;
   static LiString const ToolThumbnail;
   static LiString const SuperToolThumbnail;
@@ -18,13 +18,13 @@ public:
 
   static BrRegistry& getInstance();
 
-  /// Offers the scheme named by the server.
+  /// Adds a scheme, named by its server.
   virtual void registerServer(OPtr<BrServer> server) = 0;
-  /// Keeps a prototype, which the browser clones, under a role.
+  /// Adds a prototype, which the browser clones, under a role.
   virtual void registerView(OPtr<BrView> view, LiString role) = 0;
-  /// The image kept under `key`; null when there is none. @param variant the module passes "".
+  /// The image under `key`, or null. @param variant the module passes "".
   virtual RCShdPtr<WsManagedImage> getThumbnail(LiString const& key, LiString const& variant) = 0;
-  /// Keeps the image, which may be null, under `key`: a browsable type string or a name.
+  /// Adds an image, which may be null, under a browsable type string or another name.
   /// @param variant the module passes "".
   virtual void registerIcon(LiString const& key, RCShdPtr<WsManagedImage> const& image,
                             LiString const& variant) = 0;

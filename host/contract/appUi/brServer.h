@@ -11,13 +11,13 @@ class CmCommandStack;
 /// A scheme of the asset browser.
 class QV_EXPORT BrServer : public ObSubject<BrServer> {
 public:
-  /// The module does not look at it.
+  /// Ignored by the module.
   enum FilterOptions : int {};
 
   ~BrServer() override;
   /// A new server of the same class, owned by the caller.
   virtual BrServer* clone() const = 0;
-  /// The node for a scheme path. @param message the module leaves it as it is.
+  /// The node for a scheme path. @param message not changed by the module.
   virtual RCShdPtr<BrNode> getNode(LiString const& path, LiString& message) = 0;
   /// The node for an item of this server.
   virtual RCShdPtr<BrNode> getNodeFromBrowsable(RCShdPtr<BrBrowsable> const& browsable,
@@ -25,7 +25,7 @@ public:
   /// The name under which the browser offers the scheme.
   virtual LiString getSchemeName() const = 0;
   /// @{
-  /// The grammar of the scheme's paths; the module leaves it to the host.
+  /// Path syntax; not overridden by the module.
   virtual LiString getRootPath(LiString const& path) const;
   virtual RCShdPtr<BrNode> getRootNode();
   virtual LiString getDefaultPath() const;
@@ -36,7 +36,7 @@ public:
   /// Whether the browser may watch the scheme for changes.
   virtual bool isObservable() const;
   /// @{
-  /// The module leaves these to the host.
+  /// Not overridden by the module.
   virtual LiString getParentPath(LiString const& path) const;
   virtual bool supportsSequences() const;
   virtual bool updateSequenceInfo(RCShdPtr<BrNode> const& parent,
@@ -48,10 +48,10 @@ public:
                                Vector<RCShdPtr<BrNode>> const& sequences,
                                Vector<RCShdPtr<BrNode>>& nodes);
   /// @}
-  /// The server's own list, empty after construction: appending to it defines the columns.
+  /// The server's own list, initially empty; appending to it defines the columns.
   virtual RCShdPtr<BrAttribList> getAttributesList() const;
   /// @{
-  /// The module leaves these to the host.
+  /// Not overridden by the module.
   virtual bool isDetailBelow() const;
   virtual void selected(RCShdPtr<RCBase<LkCounter<int>>> const& object);
   virtual void unselected(RCShdPtr<RCBase<LkCounter<int>>> const& object);

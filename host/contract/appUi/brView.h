@@ -11,7 +11,7 @@ class EvEvent;
 /// A view of the asset browser.
 class QV_EXPORT BrView : public UiResHolder {
 public:
-  /// The role under which a detail view is registered.
+  /// The role of detail views.
   static LiString DETAIL;
 
   ~BrView() override;
@@ -19,22 +19,22 @@ public:
   virtual OPtrRet<BrView> clone() const = 0;
   /// Whether the view can show the item.
   virtual bool understands(RCShdPtr<BrBrowsable> const& item) = 0;
-  /// Shows the item, after buildUi(). @param selection what is selected in the browser.
+  /// Shows the item, after buildUi(). @param selection the browser's selection.
   virtual void setContent(RCShdPtr<BrBrowsable> const& item,
                           RCShdPtr<SnSelection> const& selection) = 0;
   /// Called when the host closes the view.
   virtual void externalClose() = 0;
-  /// Builds the widgets, once. @param selection what is selected in the browser.
+  /// Builds the widgets, once. @param selection the browser's selection.
   virtual void buildUi(RCShdPtr<SnSelection> const& selection) = 0;
   /// @{
-  /// The module leaves these to the host.
+  /// Not overridden by the module.
   virtual bool setFullScreen();
   virtual void setFullScreenFocus();
   /// @}
 
 protected:
   /// @{
-  /// The module leaves these to the host.
+  /// Not overridden by the module.
   virtual void map();
   virtual void unMap();
   /// @}

@@ -9,16 +9,16 @@ namespace Qv {
 
 class UiResTable;
 
-/// Builds a detail page, field by field, from a table of resources.
+/// Builds a detail page, field by field, from a resource table.
 class QV_EXPORT BvDetailMgr : public RCBase<LkCounter<int>> {
 protected:
   ~BvDetailMgr() override;
 
 public:
-  /// Hands over the item on show, of which the manager shows what the host knows.
+  /// Sets the item whose host-side details the manager shows.
   virtual void setBrowsable(RCShdPtr<BrBrowsable> const& item);
 
-  /// Builds the page container described under `name`. @param parent null for a page of its own.
+  /// Builds the page container described under `name`. @param parent null for a top-level page.
   static RCShdPtr<BvDetailMgr> create(RCShdPtr<UiContainer> const& parent, char const* name,
                                       UiResTable const* resources);
 
@@ -31,7 +31,7 @@ public:
 
   /// The pane that holds the fields, a title before each value.
   RCShdPtr<UiPane> getGeneralInfoPane();
-  /// The pane meant for the item's icon.
+  /// The pane for the item's icon.
   RCShdPtr<UiPane> getIconPane();
 
 private:

@@ -4,13 +4,13 @@
 
 namespace Qv {
 
-/// Something that observers watch.
+/// Base class of observable objects.
 class QV_EXPORT ObSubjectAny {
 public:
   virtual ~ObSubjectAny();
 };
 
-/// A subject of the class `Subject`.
+/// An observable object of the class `Subject`.
 template <class Subject> class QV_EXPORT ObSubject : public ObSubjectAny {};
 
 } // namespace Qv

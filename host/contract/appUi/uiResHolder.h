@@ -6,12 +6,12 @@ namespace Qv {
 
 class UiResTable;
 
-/// Holds the table of resources that its widgets are made from.
+/// Owns the resource table that its widgets are built from.
 class QV_EXPORT UiResHolder {
 public:
   virtual ~UiResHolder();
 
-  /// The table lives as long as the holder; null when there is none.
+  /// Lives as long as the holder; may be null.
   UiResTable const* getResTable() const;
 
 protected:
@@ -19,7 +19,6 @@ protected:
   /// @{
   UiResHolder();
 
-  /// What getResTable() answers.
   OPtr<UiResTable> resTable_;
   /// @}
 };

@@ -5,12 +5,12 @@
 
 namespace Qv {
 
-/// The views of the application.
+/// The application's views.
 class QV_EXPORT UiViewFactory {
 public:
   /// The names of all views, in the host's order.
   static Iterator<LiString> getViews();
-  /// The label shown to users, also for a name that is not a view's.
+  /// The label shown to users; any name is allowed.
   static LiString getViewLabel(LiString const& name);
 };
 

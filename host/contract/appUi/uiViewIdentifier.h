@@ -23,7 +23,6 @@ private:
   LiString name_;
 };
 
-/// Writes the identifier in readable form.
 QV_EXPORT std::ostream& operator<<(std::ostream& os, UiViewIdentifier const& view);
 
 } // namespace Qv

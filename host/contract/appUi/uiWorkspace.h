@@ -6,15 +6,14 @@
 
 namespace Qv {
 
-/// The windows of the application.
+/// The application's windows.
 class QV_EXPORT UiWorkspace : public RCBase<LkCounter<int>> {
 public:
-  /// Null when there is none.
+  /// May be null.
   static RCShdPtr<UiWorkspace> getCurrentWorkspace();
 
-  /// Opens the view of that name. @param flag the module passes true.
+  /// Opens a view. @param flag the module passes true.
   void openViewInWindow(std::string const& name, bool flag);
-  /// Opens the view of that name in a new window.
   void openViewInNewWindow(std::string const& name);
 
 protected:

@@ -5,14 +5,13 @@
 
 namespace Qv {
 
-/// One library's build information. All strings live as long as the library.
+/// A library's build information. The strings live as long as the library.
 class QV_EXPORT InBuildInfo {
 public:
   virtual ~InBuildInfo();
-  /// The label of the product that the library belongs to.
+  /// The label of the library's product.
   virtual char const* getProductName() const = 0;
   virtual char const* getLibraryName() const = 0;
-  /// The name of the release.
   virtual char const* getReleaseName() const = 0;
   /// Major and minor version, for instance "8.0".
   virtual char const* getVersionString() const = 0;
@@ -24,14 +23,14 @@ public:
   virtual char const* getBuildNumber() const = 0;
   /// Month, day and year, for instance "Jun 12 2012".
   virtual char const* getBuildDate() const = 0;
-  /// Optimisation level, architecture and compiler, separated by points.
+  /// Optimisation level, architecture and compiler, separated by dots.
   virtual char const* getBuildFlavor() const = 0;
 };
 
 /// Registers build information.
 class QV_EXPORT InBuildInfoUtil {
 public:
-  /// Takes ownership of `info`; the result lives as long as the registry keeps it.
+  /// Takes ownership of `info`; the result lives as long as its registration.
   static InBuildInfo const& registerInfo(OPtr<InBuildInfo> info);
 };
 

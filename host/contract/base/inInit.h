@@ -2,7 +2,7 @@
 
 #include "inPackageInit.h"
 
-/// The tags that name the host's packages.
+/// Tags that name the host's packages.
 namespace QvInit {
 class QV_EXPORT appUi {};
 class QV_EXPORT base {};
@@ -17,14 +17,14 @@ class QV_EXPORT ui {};
 
 namespace Qv {
 
-/// The package class of the package that the tag class `Package` names.
+/// The class of the package that the tag `Package` names.
 ///
-/// A package specialises the constructor, and initialize() and uninitialize() where it has work to
-/// do; instantiates the class from inInit.imp.h, and keeps the one object of it, all in one source
-/// file of its library. Everyone else takes getType() from the library of the package.
+/// A package specialises the constructor and, if needed, initialize() and uninitialize(),
+/// instantiates the class from inInit.imp.h and defines its only object, all in one source file.
+/// Others import getType() from the package's library.
 template <class Package> class QV_EXPORT InInit : public InPackageInit {
 public:
-  /// Names and registers the package, and declares what it needs.
+  /// Names and registers the package and declares its dependencies.
   InInit();
   ~InInit() override;
 
@@ -34,7 +34,7 @@ public:
   void uninitialize() override;
   void setPackageFlag(bool flag) override;
 
-  /// The identity by which other packages declare that they need this one.
+  /// Identifies the package where others depend on it.
   static std::type_info const* getType();
 
 private:

@@ -9,36 +9,35 @@ namespace Qv {
 
 class InVariableBase;
 
-/// What the package manager may ask of any package.
+/// The package manager's interface to a package.
 class QV_EXPORT InPackageInitBase {
 public:
   virtual ~InPackageInitBase();
   /// @{
-  /// The module leaves these to the host.
+  /// Not overridden by the module.
   virtual void addDependency(InVariableBase* variable) = 0;
   virtual void removeDependency(InVariableBase* variable) = 0;
   /// @}
-  /// The name, which lives as long as the package.
+  /// Lives as long as the package.
   virtual char const* getName() const = 0;
   /// @{
-  /// Called when the host likes; the module does nothing.
+  /// May be called at any time; no-ops in the module.
   virtual void packageHookA() = 0;
   virtual void packageHookB() = 0;
   /// @}
-  /// Called once, after the packages that this one needs. Whatever it throws passes.
+  /// Called once, after the dependencies. Exceptions propagate.
   virtual void initialize() = 0;
-  /// Called before the package goes.
+  /// Called before the package is destroyed.
   virtual void uninitialize() = 0;
-  /// Stores the flag.
   virtual void setPackageFlag(bool flag) = 0;
 };
 
-/// A package under a name, with the packages that it needs.
+/// A named package and its dependencies.
 class QV_EXPORT InPackageInit : public InPackageInitBase {
 public:
   /// @param name is not copied.
   explicit InPackageInit(char const* name);
-  /// Withdraws the package from the package manager.
+  /// Removes the package from the package manager.
   ~InPackageInit() override;
   InPackageInit(InPackageInit const&) = delete;
   InPackageInit& operator=(InPackageInit const&) = delete;
@@ -47,18 +46,18 @@ public:
   void removeDependency(InVariableBase* variable) override;
   char const* getName() const override;
 
-  // A package calls these two while its library is loaded, when nothing may be thrown: the package
-  // manager keeps a failure for whoever loads.
+  // These are called while the library is loading, so they must not throw: the package manager
+  // keeps an exception for whoever loads the library.
 
-  /// Makes the package known to the package manager; called once.
+  /// Adds the package to the package manager; called once.
   void registerPackage() noexcept;
-  /// Records that this package needs the package whose package class is `package`.
+  /// Adds a dependency on the package of the class `package`.
   void addDependency(std::type_info const* package) noexcept;
 
   /// @name Stand-in only
   /// @{
 
-  /// The package classes needed, in the order of declaration.
+  /// Package classes, in order of declaration.
   Vector<std::type_info const*> const& getDependencies() const { return dependencies_; }
   /// @}
 

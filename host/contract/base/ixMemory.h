@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// A block of memory that the host shares.
+/// A shared memory block of the host.
 class QV_EXPORT IxMemory : public RCBase<LkCounter<int>> {
 protected:
   ~IxMemory() override;

@@ -8,7 +8,7 @@ namespace Qv {
 /// Splits paths.
 class QV_EXPORT OmUtil {
 public:
-  /// The components of `path`, standing on the first. An empty path has none.
+  /// The components of `path`; an empty path has none.
   static Iterator<std::string> parsePath(OsFilePath const& path);
 };
 

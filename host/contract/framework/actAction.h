@@ -15,11 +15,10 @@ protected:
   /// Whether the action is offered for these items.
   virtual bool inputValid(RCShdPtr<SnItem const> const& first,
                           RCShdPtr<SnItem const> const& second) const = 0;
-  /// Performs the action on these items.
   virtual void performAction(RCShdPtr<SnItem const> const& first,
                              RCShdPtr<SnItem const> const& second,
                              RCShdPtr<SnSelection> const& selection) const = 0;
-  /// Appends the options that the action offers; returns how many.
+  /// Appends the action's options; returns how many.
   virtual int enumOptions(RCShdPtr<SnItem const> const& first, RCShdPtr<SnItem const> const& second,
                           Vector<LiString>& options) const = 0;
 
@@ -27,7 +26,7 @@ public:
   /// The name under which the action is registered.
   virtual LiString getName() = 0;
   /// @{
-  /// The module leaves these to the host.
+  /// Not overridden by the module.
   virtual std::string getDisplayString() const;
   virtual std::string getGroup() const;
   virtual std::string getCompositeName() const;

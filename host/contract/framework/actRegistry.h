@@ -5,10 +5,10 @@
 
 namespace Qv {
 
-/// The registry of actions.
+/// The action registry.
 class QV_EXPORT ActRegistry {
 public:
-  /// The meaning is the host's; the module passes 0.
+  /// Defined by the host; the module passes 0.
   enum DynamicState : int {};
 
   static ActRegistry& getInstance();

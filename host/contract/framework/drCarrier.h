@@ -7,7 +7,7 @@ namespace Qv {
 /// Carries a selection through one drag.
 class QV_EXPORT DrCarrier : public RCBase<LkCounter<int>> {
 public:
-  /// The selection under way, to be filled and read.
+  /// The dragged selection, to be filled and read.
   RCShdPtr<SnSelection> getSelection();
 
   /// @name Stand-in only

@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// A colour; the components of a float colour range from 0 to 1.
+/// A colour; float components range from 0 to 1.
 template <class T> struct QV_EXPORT CoRgbColorTyped {
   T red{};
   T green{};

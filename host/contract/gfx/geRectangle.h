@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// A rectangle, by its corner of least coordinates and its size.
+/// A rectangle: minimum corner and size.
 template <class T> struct QV_EXPORT GeRectangle {
   GeVector2<T> origin;
   GeVector2<T> size;

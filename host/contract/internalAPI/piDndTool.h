@@ -17,7 +17,7 @@ protected:
   ~PiDndTool() override;
 
 public:
-  /// Null when the tool cannot be dragged or there is none.
+  /// Null if `tool` is null or cannot be dragged.
   static RCShdPtr<PiDndTool const> create(RCShdPtr<PiTool const> const& tool);
 };
 

@@ -6,8 +6,8 @@
 
 namespace Qv {
 
-/// One registered tool. Handled as `RCShdPtr<PiTool const>`. The host has further operations
-/// before and between these, which the module does not call.
+/// A registered tool, handled as `RCShdPtr<PiTool const>`. The host has further slots before and
+/// between these, which the module does not call.
 class QV_EXPORT PiTool : public RCBase<LkCounter<int>> {
 protected:
   ~PiTool() override;
@@ -21,7 +21,7 @@ public:
   virtual std::string getInfoText2() const = 0;
   /// The third text.
   virtual std::string getInfoText3() const = 0;
-  /// The registry name, one whole path component.
+  /// The registry name, a single path component.
   virtual std::string getName() const = 0;
 };
 

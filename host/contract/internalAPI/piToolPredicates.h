@@ -8,14 +8,13 @@ namespace Qv {
 
 extern template class QV_EXPORT PrdPredicate<RCShdPtr<PiTool const>>;
 
-/// Questions about tools.
+/// Predicates on tools.
 class QV_EXPORT PiToolPredicates {
 public:
-  /// The tool belongs to the category of that name.
+  /// The tool belongs to `category`.
   static PrdPredicate<RCShdPtr<PiTool const>> isCategory(LiString const& category);
   /// The tool is internal to the host.
   static PrdPredicate<RCShdPtr<PiTool const>> isInternal();
-  /// The tool is active.
   static PrdPredicate<RCShdPtr<PiTool const>> isActive();
 };
 

@@ -5,23 +5,23 @@
 
 namespace Qv {
 
-/// The host's registry of plug-in tools. The host has further operations before and between
-/// these, which the module does not call.
+/// The host's registry of plug-in tools. The host has further slots before and between these,
+/// which the module does not call.
 class QV_EXPORT PiToolRegistry {
 public:
   static PiToolRegistry& getInstance();
 
-  /// Null when no tool has that name. @param flag the module passes false.
+  /// Null if no tool has that name. @param flag the module passes false.
   virtual RCShdPtr<PiTool const> findTool(std::string const& name, bool flag) = 0;
-  /// The tool that a drag carries under that name; null when there is none.
+  /// The tool that a drag of `name` carries, or null.
   virtual RCShdPtr<PiTool const> getTool(std::string const& name) = 0;
-  /// Every tool for which `predicate` holds, in the order in which they are shown; none is null.
+  /// The tools for which `predicate` holds, in display order; none is null.
   /// @param flag the module passes true.
   virtual Iterator<RCShdPtr<PiTool const>>
   getTools(PrdPredicate<RCShdPtr<PiTool const>> const& predicate, bool flag) = 0;
-  /// The names of the categories, in the order in which they are shown.
+  /// The category names, in display order.
   virtual Iterator<std::string> getCategories() = 0;
-  /// Whether it is the name of a super tool; any name may be asked about.
+  /// Whether `name` is a super tool; any name is allowed.
   virtual bool isSuperTool(std::string const& name) = 0;
 
 protected:

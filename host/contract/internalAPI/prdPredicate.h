@@ -6,12 +6,12 @@
 
 namespace Qv {
 
-/// A question about a `T`; a value that can be negated and combined.
+/// A predicate on `T`; a value that can be negated and combined.
 template <class T> class QV_EXPORT PrdPredicate {
 public:
   virtual ~PrdPredicate();
 
-  /// Holds where this one does not.
+  /// Holds where this does not.
   PrdPredicate operator!() const;
   /// Holds where both do.
   PrdPredicate operator&&(PrdPredicate const& other) const;
@@ -19,13 +19,13 @@ public:
   /// @name Stand-in only
   /// @{
 
-  /// @param term is shared with the copies.
+  /// @param term is shared with copies.
   explicit PrdPredicate(RCShdPtr<RCBase<LkCounter<int>> const> const& term);
 
   /// Whether the predicate holds for `element`.
   bool holds(T const& element) const;
-  /// The one index key under which all elements lie for which the predicate can hold; null when
-  /// it does not confine them so. Lives as long as the predicate.
+  /// The index key that all matching elements share, or null if the predicate implies none. Lives
+  /// as long as the predicate.
   std::string const* getIndexKey() const;
   /// @}
 

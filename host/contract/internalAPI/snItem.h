@@ -10,7 +10,7 @@ protected:
   ~SnParts() override;
 };
 
-/// An item of a selection. Counted without atomics, so it stays on the thread that made it.
+/// A selection item. Its count is not atomic, so it stays on the thread that made it.
 class QV_EXPORT SnItem : public RCBase<int> {
 public:
   class Snapshot;
@@ -21,15 +21,13 @@ protected:
 public:
   /// A new item equal to this one, owned by the caller.
   virtual SnItem* clone() const = 0;
-  /// Whether both stand for the same thing.
+  /// Whether both represent the same object.
   virtual bool isEqual(SnItem const& other) const = 0;
-  /// Writes a description, of which the base class writes its own part.
+  /// Writes a description; the base class writes its own part.
   virtual void dump(std::ostream& os) const;
-  /// Saves the state of the item.
   virtual RCShdPtr<Snapshot> snapshot() const;
 
 protected:
-  /// An item from the saved state.
   virtual RCShdPtr<SnItem> restore() const;
 
   explicit SnItem(RCShdPtr<SnParts> const& parts);

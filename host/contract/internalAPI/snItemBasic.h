@@ -18,7 +18,7 @@ protected:
 public:
   SnItem* clone() const override { return new SnItemBasic(*this); }
 
-  /// Equal items are of the same class and carry equal values; the parts do not count.
+  /// Compares classes and values, not parts.
   bool isEqual(SnItem const& other) const override {
     return typeid(other) == typeid(*this) &&
            static_cast<SnItemBasic const&>(other).value_ == value_;
@@ -34,7 +34,6 @@ public:
     os << "\n";
   }
 
-  /// Gives consumers of the selection what it carries.
   T const& getValue() const { return value_; }
 
 protected:
@@ -44,7 +43,7 @@ private:
   T value_;
 };
 
-// An instance exports a defaulted destructor only when it is defaulted outside the class.
+// A template instance exports a defaulted destructor only if it is defaulted out of class.
 template <class T> inline SnItemBasic<T>::~SnItemBasic() = default;
 
 } // namespace Qv

@@ -5,28 +5,26 @@
 
 namespace Qv {
 
-/// A collection of selection items. Counted without atomics, like its items.
+/// A collection of selection items. Its count is not atomic, like that of its items.
 class QV_EXPORT SnSelection : public RCBase<int> {
 protected:
   ~SnSelection() override;
 
 public:
   /// @name Stand-in only
-  /// In the place of two operations of the host that the module does not call.
+  /// In place of two host operations that the module does not call.
   /// @{
 
-  /// In the order in which they were added.
+  /// In the order added.
   virtual Vector<RCShdPtr<SnItem const>> const& getItems() const = 0;
-  /// Lets go of all items.
+  /// Removes all items.
   virtual void clear() = 0;
   /// @}
-  /// Adds the item, of which the selection keeps its own reference.
+  /// Takes a reference to the item.
   virtual void addItem(RCShdPtr<SnItem const> const& item) = 0;
 
   /// @name Stand-in only
   /// @{
-
-  /// A new, empty selection.
   static RCShdPtr<SnSelection> create();
   /// @}
 };

@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-/// The host's string. It goes wherever a standard string is expected.
+/// The host's string; usable wherever a standard string is expected.
 class QV_EXPORT LiString : public std::string {
 public:
   LiString();

@@ -9,7 +9,7 @@ namespace Qv {
 /// Converts numbers to text.
 class QV_EXPORT LiStringUtil {
 public:
-  /// The decimal text of a number.
+  /// The number in decimal.
   static std::string convertNb(int number);
 };
 

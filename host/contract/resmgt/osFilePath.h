@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-/// A path, made of components.
+/// A path of components.
 class QV_EXPORT OsFilePath {
 public:
   explicit OsFilePath(std::string const& path);
@@ -16,7 +16,7 @@ public:
   /// Appends `other` as a further component.
   OsFilePath& operator+=(OsFilePath const& other);
 
-  /// Valid while the path lives and does not change.
+  /// Valid until the path changes or is destroyed.
   char const* getChars() const;
 
 private:

@@ -6,12 +6,12 @@
 
 namespace Qv {
 
-/// The server of tooltip texts.
+/// The tooltip server.
 class QV_EXPORT TtServer {
 public:
   static TtServer& getInstance();
 
-  /// The text registered under `key`; empty when there is none.
+  /// The text registered under `key`; empty if there is none.
   virtual std::string lookupTooltip(std::string const& key) = 0;
 
 protected:

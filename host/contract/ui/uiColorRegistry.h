@@ -5,15 +5,14 @@
 
 namespace Qv {
 
-/// The colours of the application, by name.
+/// The application's colours, by name.
 class QV_EXPORT UiColorRegistry {
 public:
-  /// The background of fields that cannot be edited.
+  /// Background of read-only fields.
   static LiString const NonEditBackground;
 
   static UiColorRegistry& getInstance();
 
-  /// The colour of that name.
   CoRgbColorTyped<float> getColor(LiString const& name) const;
 };
 

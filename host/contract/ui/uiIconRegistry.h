@@ -11,7 +11,7 @@ class QV_EXPORT UiIconRegistry {
 public:
   static UiIconRegistry& getInstance();
 
-  /// The image in the file of that bare name; null when there is no such image.
+  /// The image in `file`, a bare name; null if there is none.
   RCShdPtr<WsManagedImage> loadImage(OsFilePath const& file);
 };
 

@@ -5,10 +5,10 @@
 
 namespace Qv {
 
-/// A text that cannot be edited.
+/// A read-only text.
 class QV_EXPORT UiLabel : public UiWidget {
 public:
-  /// The text, which the label owns.
+  /// Owned by the label.
   UiString& getLabel() const;
 
   /// @name Stand-in only

@@ -5,16 +5,15 @@
 
 namespace Qv {
 
-/// An area with widgets, one below the other.
+/// An area that stacks its widgets vertically.
 class QV_EXPORT UiPane : public UiWidget {
 public:
   /// @name Stand-in only
   /// @{
   explicit UiPane(std::string const& name);
 
-  /// Adds a widget after the existing ones.
   void add(RCShdPtr<UiWidget> const& widget);
-  /// Shows an image behind the widgets; null shows none.
+  /// Sets the image behind the widgets; null for none.
   void setImage(RCShdPtr<WsManagedImage> const& image);
   RCShdPtr<WsManagedImage> const& getImage() const { return image_; }
   /// @}
@@ -26,7 +25,7 @@ private:
   RCShdPtr<WsManagedImage> image_;
 };
 
-/// A pane that others are built into.
+/// A pane that others are built in.
 class QV_EXPORT UiContainer : public UiPane {
 public:
   /// @name Stand-in only

@@ -6,10 +6,10 @@
 
 namespace Qv {
 
-/// A text on the screen.
+/// A displayed text.
 class QV_EXPORT UiString {
 public:
-  /// @param text is copied; it ends in a zero byte.
+  /// @param text is copied; null-terminated.
   void setString(char const* text);
 
   /// @name Stand-in only

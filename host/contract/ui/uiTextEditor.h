@@ -5,11 +5,10 @@
 
 namespace Qv {
 
-/// A box of text, of several lines.
+/// A multi-line text box.
 class QV_EXPORT UiTextEditor : public UiWidget {
 public:
   void setString(LiString const& text);
-  /// Whether users may change the text.
   void setEditable(bool editable);
 
   /// @name Stand-in only

@@ -10,13 +10,13 @@
 
 namespace Qv {
 
-/// A part of the user interface. A widget holds its children.
+/// A user-interface element; holds references to its children.
 class QV_EXPORT UiWidget : public RCBase<LkCounter<int>> {
 protected:
   ~UiWidget() override;
 
 public:
-  /// The colour property of what lies behind the widget's content.
+  /// The background's colour property.
   static char const* const BackgroundColor;
 
   /// Sets the colour of a property, for instance BackgroundColor.
@@ -25,16 +25,15 @@ public:
   /// @name Stand-in only
   /// @{
   std::string const& getName() const { return name_; }
-  /// In pixels; 0 leaves a side to the layout.
+  /// In pixels; 0 leaves it to the layout.
   int getWidth() const { return width_; }
   int getHeight() const { return height_; }
-  /// What a resource says of the widget. @param width in pixels, as is `height`; 0 leaves a side to
-  /// the layout.
+  /// Applies a resource. @param width in pixels, like `height`; 0 leaves it to the layout.
   void setLook(int width, int height, std::optional<CoRgbColorTyped<float>> const& background);
-  /// The colours that have been set, by property.
+  /// The colours set, by property.
   std::map<std::string, CoRgbColorTyped<float>> const& getColors() const { return colors_; }
   Vector<RCShdPtr<UiWidget>> const& getChildren() const { return children_; }
-  /// The widget that holds this one; null when none does.
+  /// Null for a top-level widget.
   UiWidget* getParent() const { return parent_; }
   /// @}
 
@@ -43,9 +42,8 @@ protected:
   /// @{
   explicit UiWidget(std::string const& name);
 
-  /// Takes a child in after the existing ones, out of the widget that held it before.
+  /// Appends a child and removes it from its previous parent.
   void addChild(RCShdPtr<UiWidget> const& child);
-  /// Lets go of all children.
   void removeChildren() noexcept;
   /// @}
 

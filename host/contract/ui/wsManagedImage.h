@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// An image that the host keeps for as long as somebody holds it.
+/// An image that the host keeps while it is referenced.
 class QV_EXPORT WsManagedImage : public RCBase<LkCounter<int>> {
 protected:
   ~WsManagedImage() override;

@@ -13,15 +13,15 @@ namespace {
 
 using BrowserAction = ActTypedAction<RCShdPtr<BrBrowser>, RCShdPtr<BrNode>>;
 
-/// The view that a node shows; null when it shows something else.
+/// The node's view; null if it shows something else.
 RCShdPtr<PbrViewBrowsable> getView(RCShdPtr<BrNode> const& node) {
   return node->getBrowsable().dynamicCast<PbrViewBrowsable>();
 }
 
 bool showsView(RCShdPtr<BrNode> const& node) { return node && getView(node); }
 
-// Performing dereferences the node, then the workspace, then the view: the first one that is
-// missing names the exception.
+// Performing dereferences the node, the workspace and the view in this order: the first null one
+// throws.
 
 class OpenViewInWindowAction : public BrowserAction {
 public:

@@ -4,7 +4,7 @@ namespace Qv {
 
 /// Registers "Open", then "Open in Window", which open a view in the workspace.
 void registerBrowserActions();
-/// Withdraws nothing: the registry owns the actions.
+/// Does nothing: the registry owns the actions.
 void unregisterBrowserActions();
 
 } // namespace Qv

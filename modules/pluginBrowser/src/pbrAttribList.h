@@ -6,8 +6,8 @@
 
 namespace Qv {
 
-/// Appends the columns of both schemes, the item's type as an icon, then its name under
-/// `nameTitle`, and sorts the list by the name.
+/// Appends the columns that both schemes have, the type icon and the name (titled `nameTitle`), and
+/// sorts by name.
 void appendColumns(RCShdPtr<BrAttribList> const& list, LiString const& nameTitle);
 
 } // namespace Qv

@@ -8,9 +8,9 @@
 
 namespace Qv {
 
-/// What a dragged tool puts into a selection.
+/// The selection item of a dragged tool.
 using DraggedToolItem = SnItemBasic<RCShdPtr<PiNodeDndInterface const>>;
-/// What a dragged view puts into a selection.
+/// The selection item of a dragged view.
 using DraggedViewItem = SnItemBasic<UiViewIdentifier>;
 
 extern template class SnItemBasic<RCShdPtr<PiNodeDndInterface const>>;

@@ -1,10 +1,9 @@
 #pragma once
 
-// The template instances that the module exports; each is made once, in pbrInstances.cpp, as are
-// the items of a drag that pbrDraggedItems.h declares. A header of the module that includes any of
-// the host's includes this one before: g++ silently leaves an instance out of the exports when it
-// was made implicitly before its declaration here, or when one of its arguments is hidden, so the
-// classes are declared visible.
+// The template instances that the module exports. They are instantiated in pbrInstances.cpp, like
+// those of pbrDraggedItems.h. The module's headers include this one before any of the host's: g++
+// silently hides an instance that was instantiated implicitly before its declaration here, or that
+// has a hidden argument, so the classes are declared visible.
 
 #include "iteratorSTL.imp.h"
 
@@ -74,7 +73,7 @@ extern template class Iterator<RCShdPtr<BrBrowsable>>;
 extern template class Iterator<RCShdPtr<PiTool const>>;
 extern template class Iterator<LiString>;
 
-/// The engine over the children that a query makes.
+/// The engine over a query's children.
 using BrBrowsablesEngine =
     IteratorSTL<BrBrowsables, RCStrongPtr<BrBrowsables>, IteratorAccessorPassthrough>;
 /// The engine over a list of names.

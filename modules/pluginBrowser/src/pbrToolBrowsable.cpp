@@ -14,10 +14,9 @@ namespace Qv {
 
 namespace {
 
-/// The tools that a category shows.
+/// The tools shown in a category.
 Iterator<RCShdPtr<PiTool const>> findTools(std::string const& category) {
-  // A host's predicate may refer to what it is made from: all of it lives until the tools are
-  // there.
+  // A host's predicate may refer to its operands, so all of them outlive the call.
   LiString const name(category);
   auto const inCategory = PiToolPredicates::isCategory(name);
   return PiToolRegistry::getInstance().getTools(
@@ -39,7 +38,7 @@ PbrToolBrowsable::PbrToolBrowsable(BrServer* server, std::string const& path)
   } break;
   case 1: {
     type_ = CATEGORY;
-    // The modifiable form would clone a shared engine.
+    // The non-const item() would clone a shared engine.
     toolName_ = std::as_const(components).item();
     Iterator<RCShdPtr<PiTool const>> tools = findTools(toolName_);
     for (; !tools.atEnd(); tools.next())

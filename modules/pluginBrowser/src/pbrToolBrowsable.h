@@ -6,32 +6,32 @@
 
 namespace Qv {
 
-/// An item of the tool scheme: the tools folder, a category or a tool, resolved against the tool
-/// registry when it is made and unchanged afterwards.
+/// An item of the tool scheme: the tools folder, a category or a tool. An immutable snapshot of the
+/// tool registry.
 class QV_EXPORT PbrToolBrowsable : public BrBrowsable {
 public:
-  /// The level of an item, by the number of components of its path. A super tool is a CATEGORY or
-  /// a TOOL whose super-tool flag is set.
+  /// The level of an item: the number of components of its path. A super tool is a CATEGORY or a
+  /// TOOL whose super-tool flag is set.
   enum Type : int { FOLDER = 0, CATEGORY = 1, TOOL = 2 };
 
-  // The browsable type strings, which are also the keys of the type icons. Defined among the
-  // statics of the module, in pluginBrowserQvmoduleInit.cpp.
+  // Browsable type strings, also the keys of the type icons. Defined with the module's other
+  // statics in pluginBrowserQvmoduleInit.cpp.
   static LiString const FolderId;
   static LiString const CategoryId;
   static LiString const SuperToolId;
   static LiString const ToolId;
 
   /// The item at a scheme path. @param server is not owned and must outlive the item.
-  /// @throws ExProgramAborted when the path has three or more components.
+  /// @throws ExProgramAborted if the path has three or more components.
   static RCShdPtr<PbrToolBrowsable> create(BrServer* server, std::string const& path);
-  /// The prototype that stands for the class in the drag-and-drop registry.
+  /// The prototype of the class for the drag-and-drop registry.
   static RCShdPtr<PbrToolBrowsable> createBrowsableType();
 
-  /// "Tools" for the folder, otherwise the registry's name of the category or tool.
+  /// "Tools" for the folder, otherwise the name of the category or tool.
   std::string const& getToolName() const;
   bool isSuperTool() const;
   Type getToolBrowsableType() const;
-  /// The names of the children, in a new container at every call.
+  /// The children's names, in a new container for each call.
   Iterator<std::string> getChildren();
 
 protected:
@@ -51,7 +51,7 @@ public:
   bool isAContainer() const override;
   bool hasChildren(ChildSearchType type, ChildSearchOption option) const override;
   RCShdPtr<BrChildrenQuery> getChildren(FindFilter filter) override;
-  /// Compares the paths byte for byte, whatever the other's class and scheme.
+  /// Compares the paths byte by byte, regardless of class and scheme.
   bool isEqualTo(BrBrowsable const& other) const override;
   bool isPicklistable() const override;
 

@@ -23,12 +23,12 @@ Iterator<RCShdPtr<BrBrowsable>> PbrToolChildrenQuerys::getNextChildSequence() {
       childPath += OsFilePath(names.item());
       if (filter_ == 2 && OmUtil::parsePath(childPath).getCardinality() != 2)
         continue;
-      // The string keeps its storage from child to child.
+      // The string is reused, so that it keeps its storage.
       path = childPath.getChars();
       children->push_back(PbrToolBrowsable::create(browsable_->getServer(), path));
     }
   }
-  // Only now: a child that cannot be made leaves the query pending.
+  // Only now: an exception leaves the query pending.
   pending_ = false;
   return makeIterator(children);
 }

@@ -8,7 +8,7 @@ namespace Qv {
 
 class PbrToolBrowsable;
 
-/// Lists the children of an item of the tool scheme, all in its first sequence.
+/// Lists the children of an item of the tool scheme, all in the first sequence.
 class QV_EXPORT PbrToolChildrenQuerys : public BrChildrenQuery {
 public:
   /// @param browsable is not owned and must outlive the query.

@@ -6,15 +6,15 @@
 
 namespace Qv {
 
-/// Lets tools and super tools be dragged out of the tool scheme. Nothing can be dropped or cut.
+/// Makes tools and super tools draggable. Nothing can be dropped or cut.
 class QV_EXPORT PbrToolDndHandler : public BrDndHandler {
 public:
   PbrToolDndHandler();
   ~PbrToolDndHandler() override;
 
   bool willPopulateSelection(RCShdPtr<BrBrowsable> const& item) override;
-  /// Adds the draggable form of the item's tool; nothing when there is no such tool.
-  /// @throws ExNullPtr when the carrier or its selection is null.
+  /// Adds the draggable form of the item's tool, if there is such a tool.
+  /// @throws ExNullPtr if the carrier or its selection is null.
   void populateSelection(RCShdPtr<BrBrowsable> const& item,
                          RCShdPtr<DrCarrier> const& carrier) override;
   bool willConsumeSelection(RCShdPtr<BrBrowsable> const& item,

@@ -20,7 +20,7 @@ LiString PbrToolServer::getSchemeName() const { return PiBrowserSchemes::PluginT
 
 bool PbrToolServer::isObservable() const { return true; }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface has it by value.
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface passes it by value.
 void PbrToolServer::initializeAttribList(RCShdPtr<BrAttribList> list) {
   appendColumns(list, "Tool");
 }

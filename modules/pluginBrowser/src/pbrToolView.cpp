@@ -33,7 +33,7 @@ void PbrToolView::setContent(RCShdPtr<BrBrowsable> const& item,
   if (browsable)
     tool = PiToolRegistry::getInstance().getTool(browsable->getToolName());
 
-  // The widget is asked for before the text that it shows.
+  // Each widget is looked up before the tool is asked for its text.
   auto const label = [this](std::size_t field) -> UiString& {
     return getFieldValue(field).checkedCast<UiLabel>()->getLabel();
   };

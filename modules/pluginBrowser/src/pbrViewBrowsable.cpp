@@ -85,7 +85,7 @@ std::string PbrViewBrowsable::getTooltip(int /*attributeId*/) const {
 bool PbrViewBrowsable::isAContainer() const { return type_ == FOLDER; }
 
 bool PbrViewBrowsable::hasChildren(ChildSearchType type, ChildSearchOption /*option*/) const {
-  // No view is a container.
+  // Views are not containers.
   return type != 1 && isAContainer();
 }
 

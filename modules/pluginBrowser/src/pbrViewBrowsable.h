@@ -6,24 +6,24 @@
 
 namespace Qv {
 
-/// An item of the view scheme: the views folder or a view. It never changes.
+/// An item of the view scheme: the views folder or a view. Immutable.
 class QV_EXPORT PbrViewBrowsable : public BrBrowsable {
 public:
   enum Type : int { FOLDER = 0, VIEW = 1 };
 
-  // The browsable type strings, which are also the keys of the type icons. Defined among the
-  // statics of the module, in pluginBrowserQvmoduleInit.cpp.
+  // Browsable type strings, also the keys of the type icons. Defined with the module's other
+  // statics in pluginBrowserQvmoduleInit.cpp.
   static LiString const FolderId;
   static LiString const ViewsId;
 
   /// The item at a scheme path. @param server is not owned and must outlive the item.
-  /// @throws ExProgramAborted when the path has two or more components.
+  /// @throws ExProgramAborted if the path has two or more components.
   static RCShdPtr<PbrViewBrowsable> create(BrServer* server, LiString const& path);
-  /// The prototype that stands for the class in the drag-and-drop registry.
+  /// The prototype of the class for the drag-and-drop registry.
   static RCShdPtr<PbrViewBrowsable> createBrowsableType();
 
   Type getViewBrowsableType() const;
-  /// "Views" for the folder, otherwise the name by which the view factory knows the view.
+  /// "Views" for the folder, otherwise the view's name in the view factory.
   LiString const& getViewName() const;
 
 protected:
@@ -43,7 +43,7 @@ public:
   bool isAContainer() const override;
   bool hasChildren(ChildSearchType type, ChildSearchOption option) const override;
   RCShdPtr<BrChildrenQuery> getChildren(FindFilter filter) override;
-  /// Compares the view names alone; false for an item of another class.
+  /// Compares only the view names; false for an item of another class.
   bool isEqualTo(BrBrowsable const& other) const override;
   bool isPicklistable() const override;
 

@@ -18,14 +18,14 @@ Iterator<RCShdPtr<BrBrowsable>> PbrViewChildrenQuery::getNextChildSequence() {
   RCStrongPtr<BrBrowsables> const children(new BrBrowsables);
   if (pending_ && browsable_->isAContainer()) {
     for (Iterator<LiString> views = UiViewFactory::getViews(); !views.atEnd(); views.next()) {
-      // No separator: the folder is the root of the scheme.
+      // No separator: the folder is the scheme's root.
       LiString const childPath(browsable_->getPath() + views.item());
       if (filter_ == 2 && OmUtil::parsePath(OsFilePath(childPath)).getCardinality() != 1)
         continue;
       children->push_back(PbrViewBrowsable::create(browsable_->getServer(), childPath));
     }
   }
-  // Only now: a child that cannot be made leaves the query pending.
+  // Only now: an exception leaves the query pending.
   pending_ = false;
   return makeIterator(children);
 }

@@ -8,7 +8,7 @@ namespace Qv {
 
 class PbrViewBrowsable;
 
-/// Lists the views below the views folder, all in its first sequence.
+/// Lists the views in the views folder, all in the first sequence.
 class QV_EXPORT PbrViewChildrenQuery : public BrChildrenQuery {
 public:
   /// @param browsable is not owned and must outlive the query.

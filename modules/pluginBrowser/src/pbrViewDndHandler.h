@@ -6,15 +6,15 @@
 
 namespace Qv {
 
-/// Lets views be dragged out of the view scheme. Nothing can be dropped or cut.
+/// Makes views draggable. Nothing can be dropped or cut.
 class QV_EXPORT PbrViewDndHandler : public BrDndHandler {
 public:
   PbrViewDndHandler();
   ~PbrViewDndHandler() override;
 
   bool willPopulateSelection(RCShdPtr<BrBrowsable> const& item) override;
-  /// Adds the identifier of the item's view, whether the view factory knows it or not.
-  /// @throws ExNullPtr when the carrier or its selection is null.
+  /// Adds the identifier of the item's view, known to the view factory or not.
+  /// @throws ExNullPtr if the carrier or its selection is null.
   void populateSelection(RCShdPtr<BrBrowsable> const& item,
                          RCShdPtr<DrCarrier> const& carrier) override;
   bool willConsumeSelection(RCShdPtr<BrBrowsable> const& item,

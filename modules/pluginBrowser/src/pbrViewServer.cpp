@@ -20,7 +20,7 @@ LiString PbrViewServer::getSchemeName() const { return PiBrowserSchemes::PluginV
 
 bool PbrViewServer::isObservable() const { return true; }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface has it by value.
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface passes it by value.
 void PbrViewServer::initializeAttribList(RCShdPtr<BrAttribList> list) {
   appendColumns(list, "View");
 }

@@ -6,15 +6,15 @@
 
 namespace Qv {
 
-/// The server of the view scheme: its name, its columns, and the node for a path.
+/// The view scheme: its name, its columns, and the node for a path.
 class QV_EXPORT PbrViewServer : public BrServer {
 public:
   PbrViewServer();
   ~PbrViewServer() override;
 
   BrServer* clone() const override;
-  /// @param message stays as it is.
-  /// @throws ExProgramAborted when the path has two or more components.
+  /// @param message is left unchanged.
+  /// @throws ExProgramAborted if the path has two or more components.
   RCShdPtr<BrNode> getNode(LiString const& path, LiString& message) override;
   LiString getSchemeName() const override;
   bool isObservable() const override;

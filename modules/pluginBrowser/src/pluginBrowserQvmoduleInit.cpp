@@ -50,8 +50,8 @@ public:
 
 } // namespace
 
-// All statics of the module stand here, since the language keeps the order only within one source
-// file: the package is declared before anything else of the module exists, and goes last.
+// All statics of the module are here, since the language fixes their order only within one source
+// file: the package is registered before any other static exists, and destroyed last.
 
 namespace {
 PackageInit package;
@@ -76,7 +76,7 @@ template <> void PackageInit::initialize() {
   OPtr<BrServer> toolServer(new PbrToolServer);
   OPtr<BrServer> viewServer(new PbrViewServer);
   {
-    // Handlers and prototypes are let go before the icons come.
+    // Handlers and prototypes are released before the icons are loaded.
     RCShdPtr<PbrToolBrowsable> const toolType = PbrToolBrowsable::createBrowsableType();
     RCShdPtr<PbrToolDndHandler> const toolHandler(new PbrToolDndHandler);
     BrDndRegistry::getInstance().addHandler(toolType, toolHandler);
