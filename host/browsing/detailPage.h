@@ -62,6 +62,8 @@ public:
   static std::optional<DetailPage> create(RCShdPtr<BrBrowsable> const& item);
 
   Content show(RCShdPtr<BrBrowsable> const& item);
+  /// Tells the view that nobody looks at it any more.
+  void close() { view_->externalClose(); }
   /// The outermost widget of each page and of the icon pane.
   std::vector<Widget> getWidgets() const;
 

@@ -1,6 +1,5 @@
 #include "dragging.h"
 
-#include "drCarrier.h"
 #include "hostDndRegistry.h"
 #include "hostDndTool.h"
 #include "snItemBasic.h"
@@ -13,13 +12,16 @@ namespace Qv {
 
 namespace {
 
-std::string describe(RCShdPtr<SnItem const> const& item) {
+Drag::Arrival describe(RCShdPtr<SnItem const> const& item) {
+  std::ostringstream dump;
+  item->dump(dump);
   if (auto const tool = item.dynamicCast<SnItemBasic<RCShdPtr<PiNodeDndInterface const>> const>())
-    return "tool \"" + tool->getValue().checkedCast<HostDndTool const>()->getTool()->getName() +
-           "\"";
+    return {"tool \"" + tool->getValue().checkedCast<HostDndTool const>()->getTool()->getName() +
+                "\"",
+            dump.str(), ""};
   if (auto const view = item.dynamicCast<SnItemBasic<UiViewIdentifier> const>())
-    return "view \"" + view->getValue().getName() + "\"";
-  return "something unknown";
+    return {"view \"" + view->getValue().getName() + "\"", dump.str(), view->getValue().getName()};
+  return {"something unknown", dump.str(), ""};
 }
 
 } // namespace
@@ -29,20 +31,30 @@ Drag drag(RCShdPtr<BrBrowsable> const& item) {
   if (!handler)
     return {};
   BrDndHandler const& found = *handler;
-  RCShdPtr<DrCarrier> const carrier(new DrCarrier(SnSelection::create()));
-  Drag drag = {
-      typeName(typeid(found)), handler->willPopulateSelection(item),         handler->willCut(item),
-      handler->willCopy(item), handler->willConsumeSelection(item, carrier), {}};
-  if (!drag.accepted)
-    return drag;
+  RCShdPtr<DrCarrier> const empty(new DrCarrier(SnSelection::create()));
+  RCShdPtr<DrCarrier> const carrier = startDrag(item);
+  return {typeName(typeid(found)),
+          bool(carrier),
+          handler->willCut(item),
+          handler->willCopy(item),
+          handler->willConsumeSelection(item, empty),
+          carrier ? getArrivals(*carrier) : std::vector<Drag::Arrival>()};
+}
 
+RCShdPtr<DrCarrier> startDrag(RCShdPtr<BrBrowsable> const& item) {
+  RCShdPtr<BrDndHandler> const handler = HostDndRegistry::getInstance().findHandler(*item);
+  if (!handler || !handler->willPopulateSelection(item))
+    return RCShdPtr<DrCarrier>();
+  RCShdPtr<DrCarrier> carrier(new DrCarrier(SnSelection::create()));
   handler->populateSelection(item, carrier);
-  for (RCShdPtr<SnItem const> const& dragged : carrier->getSelection()->getItems()) {
-    std::ostringstream dump;
-    dragged->dump(dump);
-    drag.arrivals.push_back({describe(dragged), dump.str()});
-  }
-  return drag;
+  return carrier;
+}
+
+std::vector<Drag::Arrival> getArrivals(DrCarrier& carrier) {
+  std::vector<Drag::Arrival> arrivals;
+  for (RCShdPtr<SnItem const> const& item : carrier.getSelection()->getItems())
+    arrivals.push_back(describe(item));
+  return arrivals;
 }
 
 } // namespace Qv

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "drCarrier.h"
 #include "items.h"
 
 namespace Qv {
@@ -11,6 +12,8 @@ struct Drag {
     std::string what;
     /// What the selection item tells of itself, line by line.
     std::string dump;
+    /// The name of the view that arrives; empty for anything else.
+    std::string view;
   };
 
   /// The class of the item's handler; empty when it has none, and then nothing below holds.
@@ -25,5 +28,9 @@ struct Drag {
 };
 
 Drag drag(RCShdPtr<BrBrowsable> const& item);
+
+/// A carrier with what the item stands for; null when the item cannot be dragged.
+RCShdPtr<DrCarrier> startDrag(RCShdPtr<BrBrowsable> const& item);
+std::vector<Drag::Arrival> getArrivals(DrCarrier& carrier);
 
 } // namespace Qv

@@ -33,21 +33,25 @@ ToolSource standardViews() {
   return source;
 }
 
+fs::path resourceDirectory() { return programDirectory().parent_path() / "share" / "qvbrowse"; }
+
 } // namespace
 
-Session::Session(Options const& options) {
-  fs::path const resources = programDirectory().parent_path() / "share" / "qvbrowse";
-  HostResources::getInstance().setDirectory(resources);
+std::vector<ToolSource> Session::read(Options const& options) {
   std::vector<std::string> names = options.sources;
   if (names.empty())
-    names = {hasFrei0rTools(frei0rDirectory) ? "frei0r" : resources / "sampleCatalogue.json"};
+    names = {hasFrei0rTools(frei0rDirectory) ? "frei0r"
+                                             : resourceDirectory() / "sampleCatalogue.json"};
   std::vector<ToolSource> sources = readToolSources(names, options.scan);
   if (std::all_of(sources.begin(), sources.end(),
                   [](ToolSource const& source) { return source.views.empty(); }))
     sources.push_back(standardViews());
-  for (ToolSource const& source : sources)
-    plugins_.insert(plugins_.end(), source.plugins.begin(), source.plugins.end());
-  registerToolSources(sources);
+  return sources;
+}
+
+Session::Session(Options const& options, std::vector<ToolSource> sources) {
+  HostResources::getInstance().setDirectory(resourceDirectory());
+  refill(std::move(sources));
 
   HostJournal& journal = HostJournal::getInstance();
   journal.start();
@@ -56,10 +60,22 @@ Session::Session(Options const& options) {
   startup_ = journal.getEntries();
 }
 
+void Session::refill(std::vector<ToolSource> sources) {
+  Registries::clear();
+  plugins_.clear();
+  for (ToolSource const& source : sources)
+    plugins_.insert(plugins_.end(), source.plugins.begin(), source.plugins.end());
+  registerToolSources(sources);
+}
+
 Session::Registries::~Registries() {
   HostJournal::getInstance().start();
   HostJournal::getInstance().stop();
   HostWorkspace::setCurrent(RCShdPtr<HostWorkspace>());
+  clear();
+}
+
+void Session::Registries::clear() {
   HostToolRegistry::getInstance().clear();
   HostViewFactory::getInstance().clear();
   HostTtServer::getInstance().clear();

@@ -24,7 +24,15 @@ public:
 
   /// @throws HostError when a source or the module cannot be read. Whatever the module throws
   /// passes.
-  explicit Session(Options const& options);
+  explicit Session(Options const& options) : Session(options, read(options)) {}
+  /// Over sources that have been read.
+  Session(Options const& options, std::vector<ToolSource> sources);
+
+  /// Reads the sources that the options name. May be called on any thread.
+  /// @throws HostError when one cannot be read.
+  static std::vector<ToolSource> read(Options const& options);
+  /// Fills the registries anew; items made before show what there was.
+  void refill(std::vector<ToolSource> sources);
 
   /// The plug-in files of all sources.
   std::vector<ToolSource::Plugin> const& getPlugins() const { return plugins_; }
@@ -35,6 +43,7 @@ private:
   /// Empties the registries that the sources fill, after the module has gone.
   struct Registries {
     ~Registries();
+    static void clear();
   };
 
   Registries registries_;

@@ -3,14 +3,14 @@
 #include <memory>
 #include <tiffio.h>
 #include <utility>
-#include <vector>
 
 namespace Qv {
 
 WsManagedImage::~WsManagedImage() = default;
 
-HostImage::HostImage(std::string name, std::uint32_t width, std::uint32_t height)
-    : name_(std::move(name)), width_(width), height_(height) {}
+HostImage::HostImage(std::string name, std::uint32_t width, std::uint32_t height,
+                     std::vector<std::uint32_t> pixels)
+    : name_(std::move(name)), width_(width), height_(height), pixels_(std::move(pixels)) {}
 
 HostImage::~HostImage() = default;
 
@@ -32,7 +32,7 @@ RCShdPtr<HostImage> HostImage::read(std::filesystem::path const& file) {
   std::vector<std::uint32_t> pixels(std::size_t(width) * height);
   if (!TIFFReadRGBAImageOriented(tiff.get(), width, height, pixels.data(), ORIENTATION_TOPLEFT, 1))
     return RCShdPtr<HostImage>();
-  return RCShdPtr<HostImage>(new HostImage(file.filename(), width, height));
+  return RCShdPtr<HostImage>(new HostImage(file.filename(), width, height, std::move(pixels)));
 }
 
 } // namespace Qv
