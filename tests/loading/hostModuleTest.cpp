@@ -203,7 +203,7 @@ TEST_F(LoadedModule, staysWhenAnotherIsRefusedWithTheReason) {
                 "Qv::InInit<QvInit::nowhere>, which no loaded library provides");
   {
     InInit<QvInit::nowhere> const found;
-    expectRefusal(LOSTMODULE_FILE, "throws what is not an exception: Qv::Despair");
+    expectRefusal(LOSTMODULE_FILE, "throws a non-exception: Qv::Despair");
   }
   EXPECT_EQ(registered(), registeredBy({}, 0));
   EXPECT_EQ(HostPackageManager::getInstance().getPackages().size(), packages);

@@ -22,13 +22,12 @@ template <> InInit<Circle>::InInit() : InPackageInit("circle") {
 
 namespace {
 
-/// Registries with what the linked module registers, a view and no tool; all are emptied after each
-/// test.
+/// The registries as the linked module fills them, and a view; emptied after each test.
 class Registries : public testing::Test {
 protected:
   Registries() {
     HostResources::getInstance().setDirectory(RESOURCE_DIR);
-    // The package that is linked last is the module's, which needs all others.
+    // The package linked last is the module's, which depends on all others.
     manager_.initialize(module_);
     views_.addView({"graph", "Graph"});
   }
@@ -45,7 +44,7 @@ protected:
   HostViewFactory& views_ = HostViewFactory::getInstance();
 };
 
-TEST_F(Registries, refuseWithTheReasonAndStayAsTheyWere) {
+TEST_F(Registries, rejectWithTheReasonAndStayUnchanged) {
   using namespace std::string_literals;
   InInit<Circle> circle;
   auto const before = registered();
@@ -60,11 +59,11 @@ TEST_F(Registries, refuseWithTheReasonAndStayAsTheyWere) {
        {Case{"duplicate scheme \"tools\"",
              [&] { browser_.registerServer(OPtr<BrServer>(browser_.getServers()[0]->clone())); }},
         Case{"duplicate view \"graph\"", addView("graph")},
-        Case{"the view name \"gra...\" holds a zero byte", addView("gra\0ph"s)},
+        Case{"the view name \"gra...\" contains a zero byte", addView("gra\0ph"s)},
         Case{"the category name is empty", [&] { tools_.addCategory(""); }},
-        Case{"the tool name \"a/b\" holds a \"/\"",
+        Case{"the tool name \"a/b\" contains a \"/\"",
              [&] { tools_.addTool({.name = "a/b", .category = "x"}); }},
-        Case{"the category name \"...\" holds a zero byte",
+        Case{"the category name \"...\" contains a zero byte",
              [&] { tools_.addTool({.name = "a", .category = "\0"s}); }},
         Case{"unknown colour \"x\"", [] { UiColorRegistry::getInstance().getColor("x"); }},
         Case{"package \"circle\" depends on itself or has failed before",

@@ -38,7 +38,7 @@ TEST_F(Widgets, stayWithTheirParentWhenMemoryRunsOut) {
             0);
 }
 
-TEST_F(Widgets, ofASplitPaneStayWhenOthersAreRefused) {
+TEST_F(Widgets, ofASplitPaneStayWhenOthersAreRejected) {
   auto const split = UiSplitPane::create(RCShdPtr<UiContainer>(), "split", nullptr);
   Vector<Pane> const panes{pane("one"), pane("two")};
   split->setPanes(panes, nullptr);
@@ -53,7 +53,7 @@ TEST_F(Widgets, ofASplitPaneStayWhenOthersAreRefused) {
   EXPECT_EQ(panes[0]->getParent(), split.get());
 }
 
-/// A pane "x", and a resource directory of its own for the file that describes it.
+/// A pane "x" and a resource directory for the file that describes it.
 class ResourceTable : public testing::Test, protected TemporaryDirectory {
 protected:
   ResourceTable() { HostResources::getInstance().setDirectory(directory_); }
@@ -66,32 +66,32 @@ protected:
   Pane const pane_{new UiPane("x")};
 };
 
-TEST_F(ResourceTable, isRefusedWithTheReason) {
+TEST_F(ResourceTable, isRejectedWithTheReason) {
   EXPECT_THAT(refusalOf([&] { applyFile(); }), HasSubstr("in \"" + directory_.string() + "\""));
   auto const in = [](std::string const& text) { return "<resources>" + text + "</resources>"; };
   for (auto const& [text, reason] : std::initializer_list<std::pair<std::string, char const*>>{
-           {"<resources>", "it is not well-formed XML"},
-           {"<page/>", "its root is <page> instead of <resources>"},
-           {"<resources/><page/>", "there is more than resources in it"},
-           {in("text"), "there is text outside of its resources"},
+           {"<resources>", "not well-formed XML"},
+           {"<page/>", "the root is <page>, not <resources>"},
+           {"<resources/><page/>", "unexpected content beside <resources>"},
+           {in("text"), "text outside of a resource"},
            {in("<page/>"), "a <page> has no name"},
-           {in("<page name='x'/><label name='x'/>"), "\"x\" is described twice"},
-           {in("<pane name='x'/>"), "\"x\" is a <pane>, which is not a kind of resource"},
-           {in("<page name='x'>text</page>"), "\"x\" holds something"},
+           {in("<page name='x'/><label name='x'/>"), "duplicate resource \"x\""},
+           {in("<pane name='x'/>"), "\"x\" is of the unknown kind <pane>"},
+           {in("<page name='x'>text</page>"), "\"x\" is not empty"},
            {in("<page name='x' text='y'/>"), "\"x\" has an unknown attribute text"},
-           {in("<page name='x' width='1' width='1'/>"), "\"x\" has the attribute width twice"},
+           {in("<page name='x' width='1' width='1'/>"), "\"x\" has a duplicate attribute width"},
            {in("<page name='x' height='1px'/>"),
             "\"x\" has the height \"1px\", which is not a pixel count"},
-           {in("<page name='x' background='#12345g'/>"), "\"#12345g\" instead of #rrggbb"},
-           {in(""), "describes no page \"x\""},
+           {in("<page name='x' background='#12345g'/>"), "\"#12345g\", which is not #rrggbb"},
+           {in(""), "has no page \"x\""},
            {in("<label name='x'/>"), "describes \"x\" as a label"}}) {
     write("x.xml", text);
     EXPECT_THAT(refusalOf([&] { applyFile(); }),
-                testing::AllOf(HasSubstr("the resource file \"x.xml\""), HasSubstr(reason)));
+                testing::AllOf(HasSubstr("resource file \"x.xml\""), HasSubstr(reason)));
   }
 }
 
-TEST_F(ResourceTable, givesAWidgetItsLook) {
+TEST_F(ResourceTable, setsAWidgetsSizeAndBackground) {
   write("x.xml", "<resources><page name='x' width='12' height='34' background='#ff3300'/>"
                  "</resources>");
   applyFile();

@@ -6,8 +6,8 @@ namespace Qv {
 
 namespace {
 
-/// What an item carries; nothing when there is no item. @throws ExCastFailed when it carries
-/// something else.
+/// The item's value; a null item gives a default one. @throws ExCastFailed if it carries something
+/// else.
 template <class T> T valueOf(RCShdPtr<SnItem const> const& item) {
   RCShdPtr<SnItemBasic<T> const> const typed = item.checkedCast<SnItemBasic<T> const>();
   return typed ? typed->getValue() : T();
@@ -21,7 +21,7 @@ template <class T> bool carries(RCShdPtr<SnItem const> const& item) {
 
 template <class First, class Second> ActTypedAction<First, Second>::ActTypedAction() = default;
 
-// The framework's operations are const and the typed ones are not; an action has no state.
+// The framework's functions are const, the typed ones are not; an action has no state.
 
 template <class First, class Second>
 bool ActTypedAction<First, Second>::inputValid(RCShdPtr<SnItem const> const& first,

@@ -42,8 +42,8 @@ BrBrowsable::~BrBrowsable() = default;
 
 BrServer* BrBrowsable::getServer() const { return server_; }
 
-// An item that overrides nothing has no attributes: reading gives NotAvailableString or the empty
-// value, writing is ignored, and nothing is loaded, editable, selected or played.
+// An item that overrides nothing has no attributes: reading yields NotAvailableString or an empty
+// value, writing is ignored, and nothing needs loading or is editable, selected or playable.
 
 void BrBrowsable::set(int /*attributeId*/, int /*index*/, CoRgbColorTyped<float> const& /*value*/) {
 }

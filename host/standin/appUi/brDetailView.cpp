@@ -14,7 +14,7 @@ BrDetailView::~BrDetailView() = default;
 
 void BrDetailView::setFullScreenHandler(CbHandler<EvEvent>* /*handler*/) {}
 
-// NOLINTNEXTLINE(readability-const-return-type): the slot is declared so.
+// NOLINTNEXTLINE(readability-const-return-type): the interface returns const.
 RCShdPtr<VpPlayer> const BrDetailView::getMiniPlayer() const { return RCShdPtr<VpPlayer>(); }
 
 void BrDetailView::addDetailInfoPage(RCShdPtr<UiWidget> page, LiString const& title) {

@@ -7,7 +7,7 @@ namespace Qv {
 
 namespace {
 
-/// Makes the widget that the table describes under `name`.
+/// Creates the widget that the table describes under `name`.
 template <class Widget>
 RCShdPtr<Widget> makeWidget(UiResTable::Kind kind, char const* name, UiResTable const* resources) {
   if (!resources)

@@ -8,7 +8,7 @@
 
 namespace Qv {
 
-// A standard thumbnail is the image file of its key's name.
+// The key of a standard thumbnail is the stem of its file.
 LiString const BrRegistry::FolderThumbnail("folderThumbnail");
 LiString const BrRegistry::ToolThumbnail("toolThumbnail");
 LiString const BrRegistry::SuperToolThumbnail("superToolThumbnail");

@@ -6,10 +6,10 @@
 
 namespace Qv {
 
-/// Keeps the schemes, views and icons, and loads the standard thumbnails.
+/// Holds the schemes, views and icons, and loads the standard thumbnails.
 class QV_EXPORT HostBrRegistry final : public BrRegistry {
 public:
-  /// A view with its role.
+  /// A view and its role.
   struct View {
     LiString role;
     OPtr<BrView> view;
@@ -21,14 +21,14 @@ public:
 
   /// In order of registration.
   Vector<OPtr<BrServer>> const& getServers() const { return servers_; }
-  /// @throws HostError when the scheme is unknown.
+  /// @throws HostError if the scheme is unknown.
   BrServer& getServer(std::string const& scheme) const;
   /// In order of registration.
   Vector<View> const& getViews() const { return views_; }
   Images const& getIcons() const { return icons_; }
-  /// The image that draws items of that type; null when there is none.
+  /// The icon under `key`, or null.
   RCShdPtr<WsManagedImage> getIcon(std::string const& key) const;
-  /// A new clone of the view that shows items like this in detail; null when there is none.
+  /// A new clone of the detail view that understands the item; null if there is none.
   OPtr<BrView> createDetailView(RCShdPtr<BrBrowsable> const& item) const;
   void clear();
 

@@ -4,10 +4,10 @@
 
 namespace Qv {
 
-/// Keeps the drag-and-drop handlers that BrDndRegistry is given.
+/// Holds the handlers added to BrDndRegistry.
 class QV_EXPORT HostDndRegistry {
 public:
-  /// A handler with the prototype of the class that it is attached to.
+  /// A handler and the prototype of its class.
   struct Entry {
     RCShdPtr<BrBrowsable> type;
     RCShdPtr<BrDndHandler> handler;
@@ -15,9 +15,9 @@ public:
 
   static HostDndRegistry& getInstance();
 
-  /// Returns false when the prototype's class has a handler already, which stays.
+  /// Returns false if the prototype's class already has a handler, which stays.
   bool add(RCShdPtr<BrBrowsable> const& type, RCShdPtr<BrDndHandler> const& handler);
-  /// The handler for items of that class; null when there is none.
+  /// The handler for the item's class; null if there is none.
   RCShdPtr<BrDndHandler> findHandler(BrBrowsable const& item) const;
   /// In order of registration.
   Vector<Entry> const& getEntries() const { return entries_; }

@@ -2,8 +2,8 @@
 
 #include "rcBase.h"
 
-// Classes that the contract names and the stand-in never makes. They are complete so that null
-// pointers to them can be returned.
+// Classes that the contract names and the stand-in never instantiates. They are complete so that
+// null pointers to them can be returned.
 
 namespace Qv {
 

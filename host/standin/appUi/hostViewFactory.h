@@ -19,13 +19,12 @@ public:
 
   static HostViewFactory& getInstance();
 
-  /// Adds a view after the existing ones.
-  /// @throws HostError when the name is not a single path component or exists already.
+  /// @throws HostError if the name is a duplicate or not a single path component.
   void addView(View const& view);
   void clear();
 
   Vector<std::string> const& getNames() const { return names_; }
-  /// The label of the view of that name; null when there is no such view.
+  /// Null if there is no such view.
   std::string const* findLabel(std::string const& name) const;
 
 private:

@@ -23,7 +23,7 @@ HostWorkspace::~HostWorkspace() = default;
 
 void HostWorkspace::setCurrent(RCShdPtr<UiWorkspace> const& workspace) { current() = workspace; }
 
-// Every workspace is one of the stand-in's.
+// Every workspace is a HostWorkspace.
 
 void UiWorkspace::openViewInWindow(std::string const& name, bool flag) {
   HostJournal::getInstance().record("UiWorkspace::openViewInWindow", name, flag ? "true" : "false");

@@ -5,10 +5,10 @@
 
 namespace Qv {
 
-/// Keeps what it was asked to open.
+/// Records the requests to open a view.
 class QV_EXPORT HostWorkspace final : public UiWorkspace {
 public:
-  /// One request to open a view.
+  /// A request to open a view.
   struct Request {
     std::string view;
     bool newWindow;
@@ -20,7 +20,7 @@ public:
 
   HostWorkspace();
 
-  /// Makes `workspace`, which may be null, the current one.
+  /// @param workspace may be null.
   static void setCurrent(RCShdPtr<UiWorkspace> const& workspace);
 
   Vector<Request> const& getRequests() const { return requests_; }

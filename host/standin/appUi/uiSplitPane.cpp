@@ -30,7 +30,7 @@ void UiSplitPane::setPanes(Vector<RCShdPtr<UiPane>> const& panes, Vector<float> 
   HostJournal::getInstance().record("UiSplitPane::setPanes", getName(),
                                     std::to_string(panes.size()));
   for (RCShdPtr<UiPane> const& pane : panes)
-    static_cast<void>(*pane); // A null one is refused before the old panes go.
+    static_cast<void>(*pane); // Throws for a null pane before the old ones go.
   removeChildren();
   for (RCShdPtr<UiPane> const& pane : panes)
     addChild(pane);

@@ -5,7 +5,7 @@
 
 namespace Qv {
 
-/// Owns the build information of the libraries.
+/// Owns the libraries' build information.
 class QV_EXPORT HostBuildInfoRegistry {
 public:
   static HostBuildInfoRegistry& getInstance();

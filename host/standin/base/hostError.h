@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// Thrown by the host when it refuses a request, which has changed nothing.
+/// Thrown when the host rejects a request, which then has changed nothing.
 class QV_EXPORT HostError : public ExBase {
 public:
   using ExBase::ExBase;

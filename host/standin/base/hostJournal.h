@@ -10,11 +10,11 @@
 
 namespace Qv {
 
-/// What the host was asked to do, across all its registries, in order. Every registry records a
-/// call before it changes anything, so this is also where failures of the host are injected.
+/// The calls to all registries of the host, in order. A registry records each call before it
+/// changes anything, so failures of the host are injected here.
 class QV_EXPORT HostJournal {
 public:
-  /// One call.
+  /// A call.
   struct Entry {
     std::string operation;
     std::string key;
@@ -27,9 +27,9 @@ public:
 
   /// Discards all entries and starts recording.
   void start();
-  /// Ends recording and injected failures.
+  /// Stops recording and injecting failures.
   void stop();
-  /// Makes the call of entry `index`, counted from 0, fail, until start() or stop().
+  /// Makes the call of entry `index`, counted from 0, throw, until start() or stop().
   void failAt(std::size_t index) { failAt_ = index; }
 
   /// Adds an entry while recording. @throws HostError for an injected failure.

@@ -16,7 +16,7 @@ namespace Qv {
 
 namespace {
 
-/// @throws HostError with nothing but the reason.
+/// @throws HostError with only the reason.
 boost::dll::shared_library loadLibrary(std::filesystem::path const& file) {
   std::error_code error;
   std::filesystem::path const absolute = std::filesystem::absolute(file, error);
@@ -27,7 +27,7 @@ boost::dll::shared_library loadLibrary(std::filesystem::path const& file) {
     return library;
   char const* const text = dlerror();
   std::string reason = text ? text : "the loader gives no reason";
-  // The loader starts with the path that it was given.
+  // The loader's text starts with the path.
   std::string const prefix = absolute.string() + ": ";
   if (reason.starts_with(prefix))
     reason.erase(0, prefix.size());
@@ -48,8 +48,8 @@ HostModule::HostModule(std::filesystem::path const& file) {
   Vector<InPackageInit*> own;
   std::set<std::string_view> names;
   for (InPackageInit* const package : manager.getPackages()) {
-    std::error_code outsideOfFiles;
-    if (boost::dll::symbol_location_ptr(package, outsideOfFiles) == library_->location())
+    std::error_code notInAFile;
+    if (boost::dll::symbol_location_ptr(package, notInAFile) == library_->location())
       own.push_back(package);
     else
       names.insert(package->getName());
@@ -70,13 +70,13 @@ HostModule::HostModule(std::filesystem::path const& file) {
   } catch (...) {
     std::type_info const* const type = abi::__cxa_current_exception_type();
     manager.uninitializeAll();
-    throw HostError("the module \"" + file.string() + "\" throws what is not an exception: " +
+    throw HostError("the module \"" + file.string() + "\" throws a non-exception: " +
                     (type ? typeName(*type) : "of another language"));
   }
 }
 
 HostModule::~HostModule() {
-  // The host must let go of the module's objects while their code is still there.
+  // The host must release the module's objects while their code is still loaded.
   HostPackageManager::getInstance().uninitializeAll();
 }
 

@@ -11,16 +11,16 @@ class shared_library;
 
 namespace Qv {
 
-/// A module file that is loaded and initialised for as long as this object lives. One at a time:
-/// the registries of the host can only let go of everything.
+/// A module file, loaded and initialised for the lifetime of this object. One at a time: the host's
+/// registries can only be emptied as a whole.
 class QV_EXPORT HostModule {
 public:
   /// Loads the file and initialises each package that it registers.
-  /// @throws HostError when the file cannot be loaded as a shared library, registers no package or
-  /// one that exists already, or throws what is not a std::exception. Other exceptions of a package
-  /// pass; their class must not be defined in the module, which is unloaded by then.
+  /// @throws HostError if the file is not a loadable shared library, registers no package or a
+  /// duplicate one, or throws anything but a std::exception. A std::exception propagates; its class
+  /// must not be defined in the module, which is unloaded by then.
   explicit HostModule(std::filesystem::path const& file);
-  /// Uninitialises all packages, so that the host lets go of the module's objects, and unloads it.
+  /// Uninitialises all packages, so that the host releases the module's objects, and unloads it.
   ~HostModule();
 
 private:

@@ -47,7 +47,7 @@ void HostPackageManager::initialize(InPackageInit& package) {
     initialize(*dependency);
   }
   HostJournal::getInstance().record("InPackageInit::initialize", name);
-  // One that fails half-way is uninitialised as well.
+  // Before the call: a package that fails half-way is uninitialised too.
   initialized_.push_back(&package);
   package.initialize();
   std::erase(started_, &package);

@@ -6,30 +6,30 @@
 
 namespace Qv {
 
-/// Knows the packages and initialises them after those they depend on.
+/// Initialises packages after those they depend on.
 class QV_EXPORT HostPackageManager {
 public:
   static HostPackageManager& getInstance();
 
-  /// All packages, in order of registration; each lives as long as its library is loaded.
+  /// In order of registration; a package lives as long as its library is loaded.
   Vector<InPackageInit*> const& getPackages() const { return packages_; }
-  /// The package of that package class; null when there is none.
+  /// Null if there is no such package.
   InPackageInit* find(std::type_info const& packageClass) const;
 
-  /// Initialises what the package depends on, then the package itself; each one once.
-  /// @throws HostError when a dependency is missing, leads back to the package or failed before.
+  /// Initialises the package's dependencies, then the package, each once.
+  /// @throws HostError if a dependency is missing, circular or has failed before.
   void initialize(InPackageInit& package);
-  /// Uninitialises in reverse order, which empties the registries of the host.
+  /// Uninitialises in reverse order, which empties the host's registries.
   void uninitializeAll() noexcept;
 
-  /// Adds a package, which its library owns.
+  /// Does not take ownership; the library owns the package.
   void add(InPackageInit& package);
-  /// Forgets a package that is about to go.
+  /// Removes a package that is being destroyed.
   void remove(InPackageInit& package) noexcept;
 
-  /// Keeps the exception that is being handled, if it is the first one.
+  /// Keeps the exception being handled, unless there is one already.
   void keepLoadFailure() noexcept;
-  /// Throws the exception that was kept, and forgets it.
+  /// Rethrows the kept exception, if any, and forgets it.
   void throwLoadFailure();
 
 private:

@@ -10,7 +10,7 @@ namespace Qv {
 
 namespace {
 
-/// The components with their count, in one block as long as they are few.
+/// The components and their reference count, in one allocation for up to two.
 class Components final : public RCBase<LkCounter<int>>,
                          public boost::container::small_vector<std::string, 2> {
   ~Components() override = default;

@@ -7,7 +7,7 @@ namespace Qv {
 
 namespace {
 
-/// Names the operations of an action that are for the framework alone.
+/// Names the protected functions of an action.
 struct Framework : ActAction {
   using ActAction::enumOptions;
   using ActAction::inputValid;

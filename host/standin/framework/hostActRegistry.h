@@ -4,10 +4,10 @@
 
 namespace Qv {
 
-/// Owns the actions, and offers and performs them.
+/// Owns, offers and performs the actions.
 class QV_EXPORT HostActRegistry {
 public:
-  /// An action with the state that it was registered with.
+  /// An action and the state it was registered with.
   struct Entry {
     OPtr<ActAction> action;
     ActRegistry::DynamicState state;
@@ -15,7 +15,7 @@ public:
 
   static HostActRegistry& getInstance();
 
-  /// @throws HostError when there is an action of that name.
+  /// @throws HostError if the name is a duplicate.
   void add(OPtr<ActAction> action, ActRegistry::DynamicState state);
   /// In order of registration.
   Vector<Entry> const& getEntries() const { return entries_; }
@@ -24,11 +24,10 @@ public:
   /// Whether the action is offered for these items.
   static bool isValid(ActAction const& action, RCShdPtr<SnItem const> const& first,
                       RCShdPtr<SnItem const> const& second);
-  /// Performs the action of that name. @throws HostError when there is none or it is not valid for
-  /// these items. Whatever the action throws passes.
+  /// @throws HostError if there is no such action or it is not valid for these items. Exceptions of
+  /// the action propagate.
   void perform(std::string const& name, RCShdPtr<SnItem const> const& first,
                RCShdPtr<SnItem const> const& second);
-  /// The options that the action offers.
   static Vector<LiString> getOptions(ActAction const& action, RCShdPtr<SnItem const> const& first,
                                      RCShdPtr<SnItem const> const& second);
 

@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// What arrives where a tool is dropped.
+/// What a drop target receives for a tool.
 class QV_EXPORT HostDndTool final : public PiDndTool {
 public:
   explicit HostDndTool(RCShdPtr<PiTool const> const& tool);

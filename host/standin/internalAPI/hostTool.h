@@ -7,7 +7,7 @@
 
 namespace Qv {
 
-/// What the host knows of one tool.
+/// The host's data of a tool.
 struct HostToolInfo {
   std::string name;
   std::string category;

@@ -9,16 +9,16 @@
 
 namespace Qv {
 
-/// Keeps the tools, by name and by category, so that no question needs a walk over all of them.
+/// Indexes the tools by name and by category, so that no look-up scans all of them.
 class QV_EXPORT HostToolRegistry final : public PiToolRegistry {
 public:
   static HostToolRegistry& getInstance();
 
-  /// Adds a category after the existing ones; the same name may be added again.
-  /// @throws HostError when the name is not a single path component.
+  /// Appends a category; duplicates are allowed.
+  /// @throws HostError if the name is not a single path component.
   void addCategory(std::string const& name);
-  /// Adds a tool after the existing ones. Of tools of the same name, look-ups find the first.
-  /// @throws HostError when the name or the category is not a single path component.
+  /// Appends a tool. Of several tools of one name, look-ups find the first.
+  /// @throws HostError if the name or the category is not a single path component.
   void addTool(HostToolInfo const& info);
   void clear();
 
@@ -38,7 +38,7 @@ private:
   Tools tools_;
   std::unordered_map<std::string, Tools> toolsByCategory_;
   std::unordered_map<std::string, RCShdPtr<PiTool const>> toolsByName_;
-  /// The names under which look-ups find a super tool.
+  /// Names for which look-ups find a super tool.
   std::unordered_set<std::string> superTools_;
 };
 

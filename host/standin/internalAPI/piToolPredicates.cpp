@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// What a predicate is made of; shared by all predicates that it is part of.
+/// A node of a predicate's expression, shared by all predicates that contain it.
 template <class T> class PrdTerm : public RCBase<LkCounter<int>> {
 public:
   virtual bool holds(T const& element) const = 0;
@@ -45,7 +45,7 @@ private:
 
 namespace {
 
-/// Every predicate is made of a term.
+/// Every predicate holds a PrdTerm.
 template <class T>
 RCShdPtr<PrdTerm<T> const> termOf(RCShdPtr<RCBase<LkCounter<int>> const> const& term) {
   return RCShdPtr<PrdTerm<T> const>(static_cast<PrdTerm<T> const*>(term.get()));
@@ -81,7 +81,7 @@ template class PrdPredicate<ToolPtr>;
 
 namespace {
 
-/// Every tool of the registry is one of the host's own.
+/// Every tool of the registry is a HostTool.
 HostTool const& hostTool(ToolPtr const& tool) { return static_cast<HostTool const&>(*tool); }
 
 class IsCategory final : public PrdTerm<ToolPtr> {

@@ -19,11 +19,11 @@ void HostPath::requireComponent(std::string const& name, char const* what) {
   if (name.empty())
     throw HostError(std::string("the ") + what + " is empty");
   if (name.find(Separator) != std::string::npos)
-    throw HostError(std::string("the ") + what + " \"" + name + "\" holds a \"/\"");
-  // A path ends there when it is handed on as characters.
+    throw HostError(std::string("the ") + what + " \"" + name + "\" contains a \"/\"");
+  // A path passed on as a C string would end there.
   if (std::size_t const end = name.find('\0'); end != std::string::npos)
     throw HostError(std::string("the ") + what + " \"" + name.substr(0, end) +
-                    "...\" holds a zero byte");
+                    "...\" contains a zero byte");
 }
 
 } // namespace Qv

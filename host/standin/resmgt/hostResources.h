@@ -6,14 +6,14 @@
 
 namespace Qv {
 
-/// Where the host looks for the files that packages name without a directory.
+/// The directory of the files that packages refer to by bare name.
 class QV_EXPORT HostResources {
 public:
   static HostResources& getInstance();
 
-  /// To be called before a package is initialised; until then, it is the current directory.
+  /// Call before initialising packages; the default is the current directory.
   void setDirectory(std::filesystem::path const& directory) { directory_ = directory; }
-  /// The path of the file of that name, whether there is one or not.
+  /// The file need not exist.
   std::filesystem::path locate(std::string const& fileName) const { return directory_ / fileName; }
 
 private:

@@ -6,12 +6,12 @@
 
 namespace Qv {
 
-/// Keeps the tooltip texts.
+/// Holds the tooltip texts.
 class QV_EXPORT HostTtServer final : public TtServer {
 public:
   static HostTtServer& getInstance();
 
-  /// Registers `text` under `key`, in place of an earlier one.
+  /// Replaces an earlier text.
   void setTooltip(std::string const& key, std::string const& text) { tooltips_[key] = text; }
   void clear() { tooltips_.clear(); }
 

@@ -15,7 +15,7 @@ HostImage::HostImage(std::string name, std::uint32_t width, std::uint32_t height
 HostImage::~HostImage() = default;
 
 RCShdPtr<HostImage> HostImage::read(std::filesystem::path const& file) {
-  // The library would write to stderr; null tells the caller enough.
+  // libtiff would write to stderr; null is enough for the caller.
   TIFFSetErrorHandler(nullptr);
   TIFFSetWarningHandler(nullptr);
 

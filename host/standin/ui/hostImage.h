@@ -10,19 +10,18 @@
 
 namespace Qv {
 
-/// What an image file holds.
+/// The contents of an image file.
 class QV_EXPORT HostImage final : public WsManagedImage {
 public:
-  /// Reads a TIFF file. Null when there is no such file or it holds no readable image.
+  /// Reads a TIFF file; null if it is missing, unreadable or larger than 4096 x 4096 pixels.
   static RCShdPtr<HostImage> read(std::filesystem::path const& file);
 
-  /// The bare name of the file that the image was read from.
+  /// The bare name of the file.
   std::string const& getName() const { return name_; }
   /// In pixels.
   std::uint32_t getWidth() const { return width_; }
   std::uint32_t getHeight() const { return height_; }
-  /// Row by row from the top, one number a pixel: red in the lowest byte, then green, blue and
-  /// alpha, by which the colours are multiplied.
+  /// Row by row from the top: red in the lowest byte, then green, blue and alpha, premultiplied.
   std::vector<std::uint32_t> const& getPixels() const { return pixels_; }
 
 private:

@@ -14,10 +14,10 @@ UiWidget::UiWidget(std::string const& name) : name_(name) {}
 UiWidget::~UiWidget() { removeChildren(); }
 
 void UiWidget::addChild(RCShdPtr<UiWidget> const& child) {
-  // The old parent may hold the very pointer that was passed.
+  // `child` may refer to the old parent's own pointer.
   RCShdPtr<UiWidget> const added = child; // NOLINT(performance-unnecessary-copy-initialization)
   UiWidget* const before = added->parent_;
-  children_.push_back(added); // The one step that can fail.
+  children_.push_back(added); // The only step that can throw.
   if (before)
     before->children_.erase(std::find(before->children_.begin(), before->children_.end(), added));
   added->parent_ = this;
