@@ -21,8 +21,8 @@ Json toJson(std::string const& path, Drag const& drag) {
                {"cut", drag.cut}, {"copy", drag.copy},       {"drop", drag.drop}};
   if (drag.accepted)
     json["items"] = Json::array();
-  for (auto const& [what, dump] : drag.arrivals)
-    json["items"].push_back({{"arrives", what}, {"dump", dump}});
+  for (Drag::Arrival const& arrival : drag.arrivals)
+    json["items"].push_back({{"arrives", arrival.what}, {"dump", arrival.dump}});
   return json;
 }
 
@@ -34,9 +34,9 @@ void print(std::string const& path, Drag const& drag, Output& output) {
                yesOrNo(drag.accepted), yesOrNo(drag.cut), yesOrNo(drag.copy), yesOrNo(drag.drop));
   if (drag.accepted && drag.arrivals.empty())
     output.print("  arrives: nothing\n");
-  for (auto const& [what, dump] : drag.arrivals) {
-    output.print("  arrives: {}\n", escaped(what));
-    std::istringstream lines(dump);
+  for (Drag::Arrival const& arrival : drag.arrivals) {
+    output.print("  arrives: {}\n", escaped(arrival.what));
+    std::istringstream lines(arrival.dump);
     for (std::string line; std::getline(lines, line);)
       output.print("  {}\n", escaped(line));
   }
