@@ -30,7 +30,7 @@ Owner findOwner(void* const* begin, void* const* end) {
 }
 
 [[gnu::noinline]] void count(std::size_t size) {
-  // Walking the stack may allocate in its turn.
+  // Walking the stack may allocate too.
   counting = false;
   std::array<void*, 16> frames;
   int const depth = backtrace(frames.data(), frames.size());

@@ -5,7 +5,7 @@
 
 namespace Qv {
 
-/// Who calls operator new: the library behind the standard library's own frames.
+/// The caller of operator new, behind the standard library's own frames.
 enum class Owner { Module, StandIn, Program };
 
 struct Allocations {
@@ -13,10 +13,10 @@ struct Allocations {
   std::int64_t bytes = 0;
 };
 
-/// Counts from here until stopCounting(). Counting is slow, since it walks the stack.
+/// Counts until stopCounting(). Slow, since it walks the stack.
 void startCounting();
 void stopCounting();
-/// What was counted, by Owner.
+/// Indexed by Owner.
 std::array<Allocations, 3> const& getAllocations();
 
 } // namespace Qv

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Measures the cases of the program `benchmarks`; scripts/bench tells how to call it.
+"""Measures the cases of the program `benchmarks`; see scripts/bench for its usage.
 
-Times are taken in rounds, each case in a process of its own, so that cases neither disturb each
-other nor profit from one hour of the machine. Counts come from two runs of different length, whose
-difference leaves the start of the process out.
+Times are taken in rounds, each case in its own process, so that cases do not disturb each other and
+share the machine's ups and downs. Counts are the difference between two runs of different length,
+which leaves out the start of the process.
 """
 
 import concurrent.futures
@@ -20,24 +20,24 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build/release"
-PROGRAM = "bin/benchmarks"  # In the directory that main makes.
+PROGRAM = "bin/benchmarks"  # In main's temporary directory.
 COUNTS = ROOT / "benchmarks/counts.txt"
 TEMPLATE = ROOT / "benchmarks/performance.template.md"
 DOCUMENT = ROOT / "docs/performance.md"
 
-# What takes a few nanoseconds wavers with where its process happens to lie in memory.
+# Times of a few nanoseconds vary with the memory layout of their process.
 ROUNDS = 27
 LONG_ROUNDS = 9
-# As long as each other on the command line, since reading it counts too.
+# Equally long on the command line, since parsing it counts too.
 PASSES = (10, 20)
-# Instructions may differ a little between processors, for which the C library has its own memcpy.
+# Instructions may differ between processors, for which the C library has its own memcpy.
 TOLERANCE = 0.02
 OWNERS = ("module", "standin", "program")
 QUANTITIES = ("instructions", *(f"{owner}_{unit}" for owner in OWNERS for unit in ("blocks", "bytes")))
 
 
 def run(*command):
-    """The output of a command, which sees none of the caller's environment but the path."""
+    """Runs a command with only PATH of the caller's environment."""
     environment = {"PATH": os.environ["PATH"]}
     result = subprocess.run(command, env=environment, capture_output=True, text=True)
     if result.returncode != 0:
@@ -50,7 +50,7 @@ def list_cases():
 
 
 def elements(case):
-    """How many elements one pass handles: the product of the numbers that the name ends in."""
+    """The number of elements per pass: the product of the numbers that end the name."""
     size = case.rsplit("/", 1)[1]
     factors = size.split("x") if re.fullmatch(r"\d+(x\d+)?", size) else []
     result = 1
@@ -67,7 +67,7 @@ def is_long(case):
 
 
 def time_once(case):
-    """Nanoseconds of one pass, for each element."""
+    """Nanoseconds of one pass, per element."""
     output = run(PROGRAM, f"--benchmark_filter=^{case}$", "--benchmark_format=json",
                  "--benchmark_min_time=0.05").stdout
     return json.loads(output)["benchmarks"][0]["cpu_time"] / elements(case)
@@ -87,7 +87,7 @@ def measure_times(cases):
 
 
 def total(case, passes):
-    """What all passes together take, in the order of QUANTITIES."""
+    """The costs of all passes together, in the order of QUANTITIES."""
     log = run("valgrind", "--tool=cachegrind", "--cache-sim=no", "--cachegrind-out-file=/dev/null",
               PROGRAM, "--repeat", case, str(passes)).stderr
     instructions = re.search(r"I\s+refs:\s+([\d,]+)", log)[1].replace(",", "")
@@ -96,13 +96,13 @@ def total(case, passes):
 
 
 def count(case):
-    """What one pass takes."""
+    """The costs of one pass."""
     fewer, more = (total(case, passes) for passes in PASSES)
     return dict(zip(QUANTITIES, ((b - a) / (PASSES[1] - PASSES[0]) for a, b in zip(fewer, more))))
 
 
 def measure_counts(cases):
-    # One length of listing stands for all: each element takes the same.
+    # One length of listing stands for all: the cost per element is the same.
     counted = [case for case in cases if case.startswith("walk/") or elements(case) in (1, 1000)]
     print(f"Counting {len(counted)} cases", file=sys.stderr)
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
@@ -126,10 +126,10 @@ def read_counts():
 
 
 def check(counts):
-    """Names what has grown; returns whether nothing has."""
+    """Reports what has grown; returns whether nothing has."""
     expected = read_counts()
     faults = [f"{case} is not in {COUNTS.name}" for case in counts.keys() - expected.keys()]
-    faults += [f"{case} is in {COUNTS.name} alone" for case in expected.keys() - counts.keys()]
+    faults += [f"{case} is only in {COUNTS.name}" for case in expected.keys() - counts.keys()]
     for case in counts.keys() & expected.keys():
         for quantity in QUANTITIES:
             before, now = expected[case][quantity], counts[case][quantity]
@@ -145,12 +145,12 @@ def check(counts):
 
 
 def short(number):
-    """A number with three digits, or all that stand before its point."""
+    """A number with three significant digits, or with all its integer digits."""
     return f"{number:,.0f}" if number >= 100 else f"{number:.3g}"
 
 
 class Figures:
-    """What the template may ask for: {question case...}."""
+    """The placeholders of the template: {method case...}."""
 
     def __init__(self, times, counts):
         self.times = times
@@ -160,7 +160,7 @@ class Figures:
         return short(statistics.median(self.times[case]))
 
     def ratio(self, case, peer, limit=None):
-        """Case by peer, the median of the rounds; bold when it misses the limit."""
+        """Case / peer, the median of the rounds; bold if it exceeds the limit."""
         value = statistics.median(a / b for a, b in zip(self.times[case], self.times[peer]))
         text = f"{value:.2f}"
         return f"**{text}**" if limit and float(text) > float(limit) else text
@@ -172,7 +172,7 @@ class Figures:
         return short(self.counts[case][quantity] / elements(case))
 
     def whole(self, quantity, case):
-        """Of a whole pass, whatever the number of its elements."""
+        """Per pass instead of per element."""
         return short(self.counts[case][quantity])
 
     def instruction_ratio(self, case, peer):
@@ -200,15 +200,15 @@ class Figures:
 
 
 def write_document(figures):
-    def answer(match):
-        question, *arguments = match[1].split()
-        return getattr(figures, question)(*arguments)
+    def fill(match):
+        method, *arguments = match[1].split()
+        return getattr(figures, method)(*arguments)
 
-    DOCUMENT.write_text(re.sub(r"\{([^}]*)\}", answer, TEMPLATE.read_text()))
+    DOCUMENT.write_text(re.sub(r"\{([^}]*)\}", fill, TEMPLATE.read_text()))
 
 
 def draw(times):
-    """One picture for each group of cases that grow, from the medians of the times."""
+    """Plots each group of cases that grow, from the median times."""
     for picture in ("list", "tree"):
         rows = [(case.split("/")[1], elements(case), statistics.median(values))
                 for case, values in times.items() if case.startswith(picture + "/")]
@@ -224,8 +224,8 @@ def draw(times):
 def main():
     if sys.argv[1:] not in ([], ["--check"]):
         sys.exit("bench: the only option is --check")
-    # Paths are allocated and compared as well, so they must be as long everywhere.
-    with tempfile.TemporaryDirectory(dir="/tmp") as place, contextlib.chdir(place):
+    # Paths are allocated and compared too, so they must have the same length everywhere.
+    with tempfile.TemporaryDirectory(dir="/tmp") as directory, contextlib.chdir(directory):
         for part in ("bin", "lib", "share"):
             shutil.copytree(BUILD / part, part)
         cases = list_cases()

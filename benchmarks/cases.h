@@ -12,11 +12,11 @@
 
 namespace Qv {
 
-/// A loop that runs a given number of times and consults no clock, so that what it executes can be
-/// counted to the last instruction. Stands in for a `benchmark::State`.
+/// A loop that runs a given number of times and reads no clock, so that its instructions can be
+/// counted exactly. Stands in for a `benchmark::State`.
 class CountedLoop {
 public:
-  /// @param allocations whether what the loop allocates is counted.
+  /// @param allocations whether to count the loop's allocations.
   explicit CountedLoop(std::int64_t times, bool allocations = false)
       : left_(times), allocations_(allocations) {}
 
@@ -41,11 +41,11 @@ private:
   bool allocations_;
 };
 
-/// All that is measured. A name that ends in `/N` or `/NxM` says how many elements a pass handles.
+/// All cases. A name that ends in `/N` or `/NxM` gives the number of elements per pass.
 class Cases {
 public:
   /// @param body is called with a loop (a `benchmark::State` or a CountedLoop) and runs
-  /// a range-for over what is measured. What it does around the loop is not measured.
+  /// a range-for over it, the body of which is measured.
   template <class Body> void add(std::string const& name, Body body) {
     benchmark::RegisterBenchmark(name.c_str(), [body](benchmark::State& state) { body(state); });
     counted_[name] = [body](CountedLoop loop) { body(loop); };
@@ -56,11 +56,11 @@ public:
   void addModule();
   void addLoading();
 
-  /// Runs one case. @throws std::invalid_argument when there is none of that name.
+  /// @throws std::invalid_argument if there is no such case.
   void run(std::string const& name, CountedLoop loop) const {
     auto const found = counted_.find(name);
     if (found == counted_.end())
-      throw std::invalid_argument("there is no case \"" + name + "\"");
+      throw std::invalid_argument("unknown case \"" + name + "\"");
     found->second(loop);
   }
 

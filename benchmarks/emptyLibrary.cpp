@@ -1,1 +1,1 @@
-// A shared library with nothing in it, for the time that loading alone takes.
+// An empty shared library, to measure loading alone.

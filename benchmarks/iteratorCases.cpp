@@ -12,8 +12,8 @@ namespace {
 
 constexpr int Elements = 100'000;
 
-/// Three virtual calls an element and nothing else: what no iterator whose engine is chosen at run
-/// time can undercut.
+/// Three virtual calls per element and nothing else: the lower bound for iterators with an engine
+/// chosen at run time.
 template <class T> class Cursor {
 public:
   virtual ~Cursor() = default;
@@ -39,7 +39,7 @@ private:
   typename Container::const_iterator end_;
 };
 
-// The compiler must not see which engine, range or cursor it walks over.
+// The compiler must not see the type of the engine, range or cursor.
 
 template <class Container>
 [[gnu::noinline]] Iterator<typename Container::value_type>
@@ -70,7 +70,7 @@ template <class Container> RCStrongPtr<Container> makeContainer() {
 }
 
 template <class Container> void addWalks(Cases& cases, std::string const& engine) {
-  // In each pass, `sum` walks over the container in its own way.
+  // Each pass calls `sum`, which iterates over the container in its own way.
   auto const add = [&](std::string const& name, auto sum) {
     cases.add("walk/" + engine + "/" + name + "/" + std::to_string(Elements), [sum](auto& loop) {
       auto const container = makeContainer<Container>();

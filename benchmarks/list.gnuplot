@@ -1,4 +1,4 @@
-# Time for each tool of a category, by the size of the category.
+# Time per tool of a category, by the size of the category.
 set terminal svg size 720,420 font "sans-serif,13" background "white"
 set output output
 set logscale x

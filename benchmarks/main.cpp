@@ -20,7 +20,7 @@ int readTimes(std::string const& text) {
   char const* const end = text.data() + text.size();
   auto const [rest, error] = std::from_chars(text.data(), end, times);
   if (error != std::errc() || rest != end || times < 1)
-    throw std::invalid_argument("\"" + text + "\" is no number of passes");
+    throw std::invalid_argument("\"" + text + "\" is not a number of passes");
   return times;
 }
 
@@ -34,14 +34,14 @@ void repeat(Cases const& cases, char** arguments, bool allocations) {
 } // namespace
 } // namespace Qv
 
-// benchmarks [--benchmark_...]: takes the time of the cases.
-// benchmarks --repeat CASE TIMES: runs one case that often, for whoever counts instructions.
-// benchmarks --allocations CASE TIMES: prints the blocks and bytes that this took from the heap,
-// for the module, the stand-in and the program.
+// benchmarks [--benchmark_...]: times the cases.
+// benchmarks --repeat CASE TIMES: runs one case that many times, to count its instructions.
+// benchmarks --allocations CASE TIMES: prints the blocks and bytes that this allocates, for
+// the module, the stand-in and the program.
 int main(int argc, char** argv) try {
   using namespace Qv;
-  // A process that never started a thread counts shared pointers without atomics. It sleeps, so
-  // that joining it always takes the same instructions, those of having to wait.
+  // Until a thread has been started, libstdc++ counts shared pointers without atomics. The thread
+  // sleeps, so that join() always has to wait and takes the same instructions.
   std::thread([] { std::this_thread::sleep_for(std::chrono::milliseconds(20)); }).join();
   std::filesystem::current_path(boost::dll::program_location().parent_path());
   HostResources::getInstance().setDirectory(RESOURCE_DIR);

@@ -17,8 +17,8 @@ namespace {
 
 constexpr char Category[] = "Category0";
 
-/// The loaded module, and a tool registry with categories of as many tools each. A tool's name fits
-/// a short string, its path does not.
+/// The loaded module, and a tool registry with categories of `tools` tools each. The name of a tool
+/// fits the short-string buffer, its path does not.
 class Host {
 public:
   Host(int categories, int tools) : module_(MODULE_FILE) {
@@ -69,12 +69,12 @@ void readNameAndType(BrBrowsable& item, LiString& text) {
   benchmark::DoNotOptimize(text);
 }
 
-/// An item with the same strings, as little as it takes.
+/// A minimal item with the same strings.
 struct HandWritten : boost::intrusive_ref_counter<HandWritten> {
   HandWritten(std::string const& category, std::string toolName)
       : name(std::move(toolName)), path(category + '/' + name),
         superTool(PiToolRegistry::getInstance().isSuperTool(name)) {}
-  /// The same by the calls on the host that an item has to make.
+  /// The same through the host calls that an item has to make.
   HandWritten(OsFilePath const& category, std::string const& toolName) {
     OsFilePath child(category);
     child += OsFilePath(toolName);
@@ -108,7 +108,7 @@ template <class Path> void listByHand(Path const& path, std::string& text) {
   }
 }
 
-/// Calls `use` with the item of a tool in each pass of the loop.
+/// Calls `use` with the item of a tool in each pass.
 template <class Use> auto withTool(Use use) {
   return [use](auto& loop) {
     Host host(1, 100);

@@ -30,8 +30,8 @@ template <class Make> auto copy(Make make) {
   };
 }
 
-/// Passes a pointer on, round a circle of owners: each new owner takes it from the one before. Two
-/// owners alone would measure how the processor guesses that what it stores is loaded next.
+/// Moves a pointer around a ring of owners. With only two owners, the processor's store forwarding
+/// would be measured.
 template <class Make> auto handOver(Make make) {
   return [make](auto& loop) {
     std::array<decltype(make()), 64> owners;

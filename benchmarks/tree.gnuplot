@@ -1,4 +1,4 @@
-# Time for the whole tree, by the tools in it.
+# Time for the whole tree, by the number of tools.
 set terminal svg size 720,420 font "sans-serif,13" background "white"
 set output output
 set logscale xy

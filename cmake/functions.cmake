@@ -1,4 +1,5 @@
-# qv_resources(<directory>): puts the files of the directory there, again whenever one changes.
+# qv_resources(<directory>): copies the directory's files to QV_RESOURCE_DIR, again whenever one
+# changes, and installs them.
 function(qv_resources directory)
   file(GLOB files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${directory}/*)
   foreach(file IN LISTS files)
@@ -8,7 +9,7 @@ function(qv_resources directory)
   install(FILES ${files} DESTINATION ${CMAKE_INSTALL_DATADIR}/qvbrowse COMPONENT runtime)
 endfunction()
 
-# qv_public_headers(<target> <directory>...): gives everyone who links to the target the headers in
+# qv_public_headers(<target> <directory>...): gives whatever links to the target the headers in
 # the directories, and installs them.
 function(qv_public_headers target)
   list(TRANSFORM ARGN APPEND /*.h OUTPUT_VARIABLE patterns)
@@ -37,9 +38,9 @@ function(qv_host_library name)
   qv_install_library(QV${name})
 endfunction()
 
-# qv_test_program(<name> [LABELS label...] [LIBRARIES library...] [FILES target...]): one program
-# from all sources in the directory of that name; each test in it is a test of CTest. The path of the
-# file of each target in FILES is in the macro <TARGET>_FILE.
+# qv_test_program(<name> [LABELS label...] [LIBRARIES library...] [FILES target...]): a program of
+# all sources in the directory of that name, whose tests are registered with CTest. The macro
+# <TARGET>_FILE is the path of the file of each target in FILES.
 function(qv_test_program name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LABELS;LIBRARIES;FILES")
   file(GLOB sources CONFIGURE_DEPENDS ${name}/*.cpp)

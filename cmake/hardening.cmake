@@ -1,6 +1,5 @@
-# What makes a fault in memory harder to use for anybody: in all that is built, checked by
-# tests/binary/hardening. Sanitizers have their own, better means, and fortified calls need
-# optimisation.
+# Makes memory errors harder to exploit; checked by tests/binary/hardening. Sanitizers have better
+# means of their own, and fortified calls need optimisation.
 include(CheckPIESupported)
 check_pie_supported()
 add_link_options(LINKER:-z,relro LINKER:-z,now)

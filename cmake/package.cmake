@@ -1,4 +1,4 @@
-# What find_package(QvPluginBrowser) reads, and the Debian packages.
+# The CMake package QvPluginBrowser and the Debian packages.
 include(CMakePackageConfigHelpers)
 set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/QvPluginBrowser)
 set(config ${CMAKE_BINARY_DIR}/cmake/QvPluginBrowserConfig.cmake)
@@ -12,7 +12,7 @@ install(EXPORT QvPluginBrowser NAMESPACE QvPluginBrowser:: FILE QvPluginBrowserT
 install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/qvbrowse COMPONENT runtime)
 
-# One package for who browses, one for who builds a host or a module.
+# One package for users, one for developers of hosts and modules.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_PACKAGE_CONTACT "The pluginBrowser maintainers <maintainers@localhost>")
@@ -35,9 +35,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME qvbrowse-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION
 "headers and CMake package of qvbrowse
-What building a host or a module of one's own needs: the declarations of the
-host, the counted pointers and iterators, and the targets of
-find_package(QvPluginBrowser).")
+For building a host or a module: the declarations of the host, the counted
+pointers and iterators, and the targets of find_package(QvPluginBrowser).")
 include(CPack)
 cpack_add_component(runtime)
 cpack_add_component(development DEPENDS runtime)

@@ -1,5 +1,5 @@
-"""Prints which share of the lines and branches of base/ and modules/ has run, and whatever has not
-run and is not in the list of exceptions. Usage: coverageTable.py LCOV JSON EXCEPTIONS"""
+"""Prints the line and branch coverage of base/ and modules/, and whatever is neither covered nor in
+the list of exceptions. Usage: coverageTable.py LCOV JSON EXCEPTIONS"""
 
 import json
 import os
@@ -17,7 +17,7 @@ def is_measured(path):
     return path.startswith(("base/", "modules/"))
 
 
-# By file and line: how often it ran.
+# Execution counts, by file and line.
 lines = defaultdict(dict)
 for row in open(lcov_file):
     key, _, value = row.strip().partition(":")
@@ -27,7 +27,7 @@ for row in open(lcov_file):
         line, count = value.split(",")[:2]
         lines[path][int(line)] = int(count)
 
-# By file, line and column: how often each side of it was taken, over all instances of a template.
+# Counts of both sides, by file, line and column, over all instances of a template.
 branches = defaultdict(lambda: defaultdict(lambda: [0, 0]))
 for function in json.load(open(json_file))["data"][0]["functions"]:
     for line, column, _, _, taken, not_taken, file, *_ in function["branches"]:
@@ -57,7 +57,7 @@ for path in sorted(lines):
 
 explained = {row.strip() for row in open(exceptions_file) if row.strip() and row[0] != "#"}
 for row in sorted(missed - explained):
-    print(f"not run: {row}", file=sys.stderr)
+    print(f"not covered: {row}", file=sys.stderr)
 for row in sorted(explained - missed):
-    print(f"runs, though {exceptions_file} lists it: {row}", file=sys.stderr)
+    print(f"covered, but listed in {exceptions_file}: {row}", file=sys.stderr)
 sys.exit(missed != explained)

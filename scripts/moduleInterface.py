@@ -1,6 +1,6 @@
-"""Prints the binary interface of a module that has debug information: how the classes that it
-shares with the host lie in memory, the slots of their virtual tables, the values of enumerators, and
-what it exports and imports, with types. Usage: moduleInterface.py MODULE"""
+"""Prints the binary interface of a module that has debug information: the layout, vtable slots and
+enumerators of the types that it shares with the host, and its exports and imports with their types.
+Usage: moduleInterface.py MODULE"""
 
 import re
 import subprocess
@@ -30,7 +30,7 @@ def qualified_name(die):
 
 
 def type_name(die):
-    """The type of something, whatever typedefs call it."""
+    """The type of a DIE, with typedefs resolved."""
     if "DW_AT_type" not in die.attributes:
         return "void"
     target = die.get_DIE_from_attribute("DW_AT_type")
@@ -56,7 +56,7 @@ def parameters(function):
 
 
 def rows(die):
-    """What a type is made of, in order: bases, fields and enumerators, then slots."""
+    """The rows of a type, in order: bases, fields and enumerators, then slots."""
     found = []
     for member in die.iter_children():
         attributes = member.attributes
@@ -99,7 +99,7 @@ for unit in module.get_dwarf_info().iter_CUs():
 
 symbols = []
 for symbol in module.get_section_by_name(".dynsym").iter_symbols():
-    # Without type identities, which depend on what the functions do.
+    # Without type infos, which depend on what the functions do.
     if re.match("_Z(TV)?N?K?2Qv", symbol.name):
         direction = "imports" if symbol["st_shndx"] == "SHN_UNDEF" else "exports"
         type_of_symbol = members.get(symbol.name, "")

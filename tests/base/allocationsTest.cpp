@@ -9,12 +9,12 @@ namespace {
 
 // The operators are called by name, since new expressions may be optimised away.
 
-TEST(FailingAllocations, areReportedWhenLostOrSwallowed) {
-  static void* lost = nullptr;
-  auto const loses = [] {
-    lost = ::operator new(1);
+TEST(FailingAllocations, areReportedWhenLeakedOrSwallowed) {
+  static void* leaked = nullptr;
+  auto const leaks = [] {
+    leaked = ::operator new(1);
     ::operator delete(::operator new(1));
-    ::operator delete(std::exchange(lost, nullptr));
+    ::operator delete(std::exchange(leaked, nullptr));
   };
   auto const swallows = [] {
     try {
@@ -22,9 +22,9 @@ TEST(FailingAllocations, areReportedWhenLostOrSwallowed) {
     } catch (std::bad_alloc const&) {
     }
   };
-  EXPECT_NONFATAL_FAILURE(forEachFailingAllocation(loses), "lost when allocation 2 failed");
-  ::operator delete(lost);
-  EXPECT_NONFATAL_FAILURE(forEachFailingAllocation(swallows), "did not come out");
+  EXPECT_NONFATAL_FAILURE(forEachFailingAllocation(leaks), "leaked when allocation 2 failed");
+  ::operator delete(leaked);
+  EXPECT_NONFATAL_FAILURE(forEachFailingAllocation(swallows), "without throwing std::bad_alloc");
 }
 
 } // namespace

@@ -12,7 +12,7 @@ namespace {
 using testing::AllOf;
 using testing::HasSubstr;
 
-/// A text that is gone when the exception made with it is caught.
+/// A text that is destroyed before the exception constructed from it is caught.
 std::string temporary(char const* text) { return std::string(text) + std::string(40, '.'); }
 
 TEST(Exceptions, keepTheirArguments) {

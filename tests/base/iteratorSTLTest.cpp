@@ -11,23 +11,23 @@ namespace {
 template <class Container, class Accessor = IteratorAccessorPassthrough>
 using Engine = IteratorSTL<Container, RCStrongPtr<Container>, Accessor>;
 
-/// The elements 0, 1, 2 ...
+/// A container of 0, 1, 2 ...
 template <class Container> RCStrongPtr<Container> containerOf(int size) {
   RCStrongPtr<Container> const container(new Container);
   for (int i = 0; i < size; ++i)
     container->push_back(i);
   return container;
 }
-/// Reads the position: `begin 0`, `1`, `end` ...
+/// Describes the position: `begin 0`, `1`, `end` ...
 std::string place(Iterator<int> const& it) {
   return (it.atBegin() ? "begin " : "") + (it.atEnd() ? "end" : std::to_string(it.item()));
 }
-/// What place() reads at element `index` of `size`.
+/// What place() returns at element `index` of `size`.
 std::string placeOf(int index, int size) {
   return (index == 0 ? "begin " : "") + (index == size ? "end" : std::to_string(index));
 }
 
-/// Expects that a move is refused, with that line, and leaves the iterator where it stands.
+/// Expects a move to throw with that line and to leave the iterator in place.
 template <class Move> void expectOutOfRange(Iterator<int>& it, int line, Move move) {
   std::string const before = place(it);
   auto const ex = thrownBy<IteratorEx::ExOutOfRange>(move);
@@ -83,7 +83,7 @@ TYPED_TEST(ContainerEngine, sharesItsContainerWithItsClones) {
   EXPECT_EQ(container.getStrongCount(), 1);
 }
 
-TYPED_TEST(ContainerEngine, equalsThoseOnTheSameElementAndAllAtAnEnd) {
+TYPED_TEST(ContainerEngine, equalsEnginesAtTheSameElementOrAtAnyEnd) {
   using Ptr = RCPvtEngPtr<Engine<TypeParam>>;
   Ptr const one(new Engine<TypeParam>(containerOf<TypeParam>(2)));
   Ptr const other(new Engine<TypeParam>(containerOf<TypeParam>(2)));
@@ -103,7 +103,7 @@ TYPED_TEST(ContainerEngine, equalsThoseOnTheSameElementAndAllAtAnEnd) {
       EXPECT_EQ(engine->isEqual(*otherEngine), left == right) << left << ", " << right;
 }
 
-TYPED_TEST(ContainerEngine, isNotComparedWithAnotherKind) {
+TYPED_TEST(ContainerEngine, isNotComparedWithAnotherClass) {
   struct OtherAccessor : IteratorAccessorPassthrough {};
   auto const container = containerOf<TypeParam>(1);
   RCPvtEngPtr<IteratorImp<int>> const engine(new Engine<TypeParam>(container));

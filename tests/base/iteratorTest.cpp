@@ -21,13 +21,13 @@ It& same(It& it, int& item) {
   return it;
 }
 
-/// What needs an engine of its own.
+/// An operation that needs an unshared engine.
 struct Operation {
   char const* name;
   It& (*apply)(It&);
-  /// Where it leads from 20.
+  /// The position that it leads to from 20.
   char const* place;
-  /// How many clones it costs when the engine is not shared.
+  /// The number of clones if the engine is not shared.
   int clones;
 };
 Operation const operations[] = {
@@ -47,7 +47,7 @@ Operation const operations[] = {
 
 class MovedIterator : public NoLeaks {
 protected:
-  /// An iterator that stands on 20.
+  /// An iterator at 20.
   It makeIterator() {
     It it = iteratorOver(numbers_);
     return it.next();
@@ -70,7 +70,7 @@ TEST_F(MovedIterator, clonesItsEngineOnceWhenItIsShared) {
     }
 }
 
-TEST_F(MovedIterator, staysWhereItIsWhenTheCloneIsNull) {
+TEST_F(MovedIterator, staysInPlaceWhenTheCloneIsNull) {
   for (Operation const& operation : operations) {
     SCOPED_TRACE(operation.name);
     It it = makeIterator();
@@ -81,7 +81,7 @@ TEST_F(MovedIterator, staysWhereItIsWhenTheCloneIsNull) {
   }
 }
 
-TEST_F(MovedIterator, sharesItsEngineWithThoseThatRead) {
+TEST_F(MovedIterator, sharesItsEngineForReading) {
   It const it = iteratorOver(numbers_);
   It assigned = makeIterator();
   assigned = it;
@@ -93,7 +93,7 @@ TEST_F(MovedIterator, sharesItsEngineWithThoseThatRead) {
   EXPECT_EQ(numbers_.clones, 0);
 }
 
-TEST_F(MovedIterator, namesTheEngineThatItLacks) {
+TEST_F(MovedIterator, throwsWhenItHasNoEngine) {
   It const null{RCPvtEngPtr<IteratorImp<int>>()};
   void (*const reads[])(It const&) = {
       [](It const& i) { i.item(); },    [](It const& i) { *i; },

@@ -17,11 +17,11 @@ struct Special : Owned {
 
 class SoleOwner : public NoLeaks {};
 
-TEST_F(SoleOwner, handsItsObjectOverByValue) {
+TEST_F(SoleOwner, transfersItsObjectByValue) {
   auto const consume = [](OPtr<Owned> owner) { return owner.get(); };
-  auto const hand = [](Special* object) -> OPtrRet<Special> { return OPtrRet<Special>(object); };
+  auto const make = [](Special* object) -> OPtrRet<Special> { return OPtrRet<Special>(object); };
   auto* const object = new Special;
-  OPtr<Special> sender = hand(object);
+  OPtr<Special> sender = make(object);
   EXPECT_EQ(sender.get(), object);
   EXPECT_EQ(consume(std::move(sender)), object) << "as an object of the base class";
   EXPECT_FALSE(sender);
@@ -32,15 +32,15 @@ TEST_F(SoleOwner, handsItsObjectOverByValue) {
 TEST_F(SoleOwner, deletesItsOldObjectWhenAssigned) {
   OPtr<Owned> owner(new Owned);
   OPtr<Owned> other(new Owned);
-  Owned const* const kept = other.get();
+  Owned const* const object = other.get();
   owner = std::move(other);
-  EXPECT_EQ(owner.get(), kept);
+  EXPECT_EQ(owner.get(), object);
   EXPECT_FALSE(other);
   EXPECT_EQ(Owned::living, 1);
 
   auto& self = owner;
   owner = std::move(self);
-  EXPECT_EQ(owner.get(), kept);
+  EXPECT_EQ(owner.get(), object);
 }
 
 TEST_F(SoleOwner, namesItsTypeWhenItIsNull) {

@@ -4,7 +4,7 @@
 namespace Qv {
 namespace {
 
-TEST(LockedCounter, yieldsTheValueBeforeTheChange) {
+TEST(LockedCounter, returnsTheValueBeforeTheChange) {
   LkCounter<int> counter;
   EXPECT_EQ(counter++, 0);
   EXPECT_EQ(counter--, 1);
@@ -16,7 +16,7 @@ template <class Counter> class CountedObject : public NoLeaks {};
 using Counters = testing::Types<LkCounter<int>, int>;
 TYPED_TEST_SUITE(CountedObject, Counters);
 
-TYPED_TEST(CountedObject, keepsItsCountToItself) {
+TYPED_TEST(CountedObject, doesNotCopyItsCount) {
   struct Object : RCBase<TypeParam> {};
   RCShdPtr<Object> const source(new Object);
   RCShdPtr<Object> const other = source;

@@ -17,7 +17,7 @@ class Square : public Shape {};
 
 class SharedPointer : public NoLeaks {};
 
-TEST_F(SharedPointer, leavesTheCountAndNullWhenMoved) {
+TEST_F(SharedPointer, keepsTheCountAndLeavesNullWhenMoved) {
   RCShdPtr<Shape> source(new Shape);
   RCShdPtr<Shape> target(std::move(source));
   EXPECT_FALSE(source);
@@ -49,7 +49,7 @@ TEST_F(SharedPointer, convertsToBaseAndToConst) {
   static_assert(!std::is_convertible_v<RCShdPtr<Shape const>, RCShdPtr<Shape>>);
 }
 
-TEST_F(SharedPointer, convertsToADerivedClassOrSaysWhyNot) {
+TEST_F(SharedPointer, castsToADerivedClassOrNamesBothTypes) {
   RCShdPtr<Shape const> const shape(new Circle);
 
   RCShdPtr<Circle const> const tested = shape.dynamicCast<Circle const>();
@@ -74,14 +74,14 @@ TEST_F(SharedPointer, dumpsTypesCountAndAddresses) {
   text << std::hex << std::showbase;
   pointers[0].dump(text);
   RCShdPtr<Shape const>().dump(text);
-  void const* const where = pointers[0].get();
-  void const* const nowhere = nullptr;
+  void const* const address = pointers[0].get();
+  void const* const null = nullptr;
   std::ostringstream expected;
   expected << "Pointee type = Qv::(anonymous namespace)::Circle, T type = Qv::(anonymous "
               "namespace)::Shape, ref: 17, pointer:"
-           << where << ", RCBase pointer: " << where
+           << address << ", RCBase pointer: " << address
            << "Pointee type = null, T type = Qv::(anonymous namespace)::Shape, ref: 0, pointer:"
-           << nowhere << ", RCBase pointer: " << nowhere;
+           << null << ", RCBase pointer: " << null;
   EXPECT_EQ(text.str(), expected.str());
 }
 

@@ -30,7 +30,7 @@ using Pointers = testing::Types<RCShdPtr<Node<RCShdPtr, RCBase<LkCounter<int>>>>
                                 RCStrongPtr<Node<RCStrongPtr, Uncounted>>>;
 TYPED_TEST_SUITE(SharingPointer, Pointers);
 
-TYPED_TEST(SharingPointer, isOneReferenceWhereverItPoints) {
+TYPED_TEST(SharingPointer, holdsExactlyOneReference) {
   using Pointee = typename TestFixture::Pointee;
   TypeParam pointer(new Pointee);
   TypeParam const other(new Pointee);
@@ -53,7 +53,7 @@ TYPED_TEST(SharingPointer, isOneReferenceWhereverItPoints) {
   EXPECT_EQ(countOf(other), 2);
 }
 
-TYPED_TEST(SharingPointer, isAssignedFromWithinItsPointee) {
+TYPED_TEST(SharingPointer, canBeAssignedFromWithinItsPointee) {
   using Pointee = typename TestFixture::Pointee;
   for (bool const moved : {false, true}) {
     SCOPED_TRACE(moved);
@@ -82,7 +82,7 @@ TYPED_TEST(SharingPointer, holdsNothingWhenNull) {
 
 class StrongPointer : public NoLeaks {};
 
-/// Looks at the pointer that held it when it dies, and may put another one there.
+/// Its destructor inspects the pointer that held it, and may reassign it.
 struct Watcher {
   RCStrongPtr<Watcher>& holder;
   bool replaces;
@@ -95,7 +95,7 @@ struct Watcher {
   }
 };
 
-TEST_F(StrongPointer, hasLetGoOfItsPointeeWhenThatDies) {
+TEST_F(StrongPointer, hasReleasedItsPointeeWhenTheDestructorRuns) {
   for (bool const replaces : {false, true}) {
     RCStrongPtr<Watcher> pointer;
     pointer = RCStrongPtr<Watcher>(new Watcher{pointer, replaces});

@@ -16,8 +16,7 @@ constexpr int Threads = 4;
 constexpr int Rounds = 50;
 constexpr long SumOfAll = Threads * (Threads + 1) / 2;
 
-/// Starts `work(0)`, `work(1)` ..., which begin at the same time on a thread each, runs
-/// `meanwhile` here, then waits for all.
+/// Runs `work(0)`, `work(1)` ... on threads that start together, and `meanwhile` on this one.
 template <class Work, class Meanwhile> void runTogether(Work work, Meanwhile meanwhile) {
   std::latch start(Threads);
   std::vector<std::jthread> threads;
@@ -47,7 +46,7 @@ using Pointers =
     testing::Types<RCShdPtr<Slots<RCBase<LkCounter<int>>>>, RCStrongPtr<Slots<Uncounted>>>;
 TYPED_TEST_SUITE(ThreadedPointer, Pointers);
 
-TYPED_TEST(ThreadedPointer, showsItsLastHolderWhatAllOthersWrote) {
+TYPED_TEST(ThreadedPointer, showsItsLastOwnerAllWrites) {
   using Pointer = TypeParam;
   using Pointee = std::remove_reference_t<decltype(*Pointer())>;
   std::vector<long> sums;
@@ -63,7 +62,7 @@ TYPED_TEST(ThreadedPointer, showsItsLastHolderWhatAllOthersWrote) {
         Pointer copy(own);
         own = Pointer(copy);
       }
-      // All that follows is the release, so nothing else passes the writes on.
+      // Only the release follows, so nothing else publishes the writes.
       counted.arrive_and_wait();
       own->slots[i] = i + 1;
     };
@@ -72,7 +71,7 @@ TYPED_TEST(ThreadedPointer, showsItsLastHolderWhatAllOthersWrote) {
   EXPECT_EQ(sums, std::vector<long>(Rounds, SumOfAll));
 }
 
-/// Adds its value to the sum when it dies.
+/// Adds its value to the sum when destroyed.
 struct Element {
   long value;
   long* sum;
@@ -84,7 +83,7 @@ using Engine = IteratorSTL<Elements, RCStrongPtr<Elements>, IteratorAccessorPass
 
 class ThreadedIterator : public NoLeaks {};
 
-TEST_F(ThreadedIterator, movesOnAThreadOfItsOwnAndInPlaceWhenAllOthersHaveLeft) {
+TEST_F(ThreadedIterator, movesOnItsOwnThreadAndInPlaceWhenNoLongerShared) {
   for (int round = 0; round < Rounds; ++round) {
     long sum = 0;
     {

@@ -23,13 +23,13 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
   return 0;
 }
 
-/// Ends the program, with the input that led here, when a property does not hold.
+/// Aborts unless the property holds, so that the fuzzer saves the input.
 inline void require(bool property) {
   if (!property)
     std::abort();
 }
 
-/// Asks an item and all below it whatever a browser asks. @returns how many children it has.
+/// Browses an item and everything below it. @returns the number of its children.
 inline int browse(BrServer& server, RCShdPtr<BrBrowsable> const& item) {
   LiString message;
   require(server.getNode(item->getPath(), message)->getBrowsable()->isEqualTo(*item));

@@ -1,4 +1,4 @@
-// An input is a catalogue: it is registered as a whole, and can be browsed then, or not at all.
+// An input is a catalogue: it is registered completely and can then be browsed, or not at all.
 
 #include "browse.h"
 #include "hostError.h"

@@ -1,4 +1,4 @@
-// Loads the installed module and lists a category. Its exit status says what was wrong.
+// Loads the installed module and lists a category. The exit status says what failed.
 
 #include "hostBrRegistry.h"
 #include "hostModule.h"

@@ -19,18 +19,18 @@ using testing::ElementsAre;
 
 using ToolPtr = RCShdPtr<PiTool const>;
 
-/// How many predicates have been destroyed, and how many of them when the registry was asked.
+/// The predicates destroyed in all, and before the registry was queried.
 int destroyedPredicates = 0;
-int destroyedWhenAsked = 0;
+int destroyedBeforeQuery = 0;
 
-/// The registry of this program, which refuses nothing: it gives out the same tools for whatever
-/// category, and cannot tell how many there are.
+/// A registry that rejects nothing: it returns the same tools for any category, and does not know
+/// how many there are.
 class AnyToolRegistry final : public PiToolRegistry {
 public:
   ToolPtr findTool(std::string const& /*name*/, bool /*flag*/) override { return ToolPtr(); }
   ToolPtr getTool(std::string const& /*name*/) override { return tools.values.at(0); }
   Iterator<ToolPtr> getTools(PrdPredicate<ToolPtr> const& /*predicate*/, bool /*flag*/) override {
-    destroyedWhenAsked = destroyedPredicates;
+    destroyedBeforeQuery = destroyedPredicates;
     return iteratorOver(tools);
   }
   Iterator<std::string> getCategories() override { return iteratorOver(categories); }
@@ -42,10 +42,10 @@ public:
 
 AnyToolRegistry toolRegistry;
 
-/// What the factory of this program knows.
+/// What the view factory returns.
 FakeSequence<LiString> viewNames;
 
-/// The components of the path that was parsed last, in an engine that the host goes on sharing.
+/// The components of the last parsed path, in an engine that the host keeps sharing.
 FakeSequence<std::string> components;
 std::optional<Iterator<std::string>> sharedComponents;
 
@@ -56,7 +56,7 @@ std::string parts;
 
 } // namespace
 
-// Called in place of the host libraries'.
+// These replace the functions of the host libraries.
 
 PiToolRegistry& PiToolRegistry::getInstance() { return toolRegistry; }
 
@@ -85,7 +85,7 @@ void BrBrowsable::set(int /*attributeId*/, LiString const& /*value*/) { ++writte
 
 SnItem::SnItem(RCShdPtr<SnParts> const& given) : parts_(given) { parts += given ? "some " : "no "; }
 
-/// As much of it as the destructor of a predicate needs.
+/// Only what the destructor of a predicate needs.
 template <class T> class PrdTerm : public RCBase<LkCounter<int>> {};
 
 template <class T> PrdPredicate<T>::~PrdPredicate() { ++destroyedPredicates; }
@@ -93,8 +93,7 @@ template PrdPredicate<ToolPtr>::~PrdPredicate();
 
 namespace {
 
-/// A host of another kind, which knows these categories, tools and views; it forgets them, and what
-/// it was asked, after each test.
+/// A different host, with these categories, tools and views; reset after each test.
 class OtherHost : public ModuleTest {
 protected:
   OtherHost() {
@@ -107,12 +106,12 @@ protected:
     components = {};
     viewNames = {};
     toolRegistry = AnyToolRegistry();
-    destroyedPredicates = destroyedWhenAsked = writtenAttributes = 0;
+    destroyedPredicates = destroyedBeforeQuery = writtenAttributes = 0;
     parts.clear();
   }
 };
 
-/// Expects that `f` aborts there, without a message.
+/// Expects `f` to throw ExProgramAborted for that place, without a message.
 template <class F> void expectAbort(F f, std::string const& file, int line) {
   auto const ex = thrownBy<ExProgramAborted>(f);
   EXPECT_EQ(ex.getFile(), "modules\\pluginBrowser\\src\\" + file);
@@ -120,7 +119,7 @@ template <class F> void expectAbort(F f, std::string const& file, int line) {
   EXPECT_EQ(ex.getMessage(), nullptr);
 }
 
-TEST_F(OtherHost, answersTheAttributesThatItemsDoNot) {
+TEST_F(OtherHost, answersForAttributesThatItemsLack) {
   using Item = RCShdPtr<BrBrowsable>;
   for (Item const& item :
        {Item(tool("")), Item(tool("x")), Item(tool("x/y")), Item(view("")), Item(view("graph"))}) {
@@ -144,9 +143,9 @@ TEST_F(OtherHost, answersTheAttributesThatItemsDoNot) {
   }
 }
 
-TEST_F(OtherHost, isAskedForToolsWithAllPredicatesAlive) {
+TEST_F(OtherHost, isQueriedWhileAllPredicatesAreAlive) {
   tool("z");
-  EXPECT_EQ(destroyedWhenAsked, 0);
+  EXPECT_EQ(destroyedBeforeQuery, 0);
   EXPECT_EQ(destroyedPredicates, 6) << "three, a negation and two conjunctions";
 }
 
@@ -165,7 +164,7 @@ TEST_F(OtherHost, receivesItemsWithoutParts) {
   EXPECT_EQ(parts, "no no ");
 }
 
-TEST_F(OtherHost, endsTheSequenceThatIsStillPending) {
+TEST_F(OtherHost, throwsAndLeavesTheQueryPending) {
   RCShdPtr<PbrToolBrowsable> const toolFolder = tool("");
   RCShdPtr<PbrViewBrowsable> const viewFolder = view("");
   RCShdPtr<BrChildrenQuery> const tools = toolFolder->getChildren(AllChildren);
@@ -183,7 +182,7 @@ TEST_F(OtherHost, endsTheSequenceThatIsStillPending) {
   EXPECT_EQ(nullPointeeOf([&] { childPaths(*tool(""), 0); }), "Qv::PiTool const*");
 }
 
-TEST_F(OtherHost, namesMoreThanComponentsWhichAreLeftOutWhenItemsAreAskedFor) {
+TEST_F(OtherHost, mayReturnNamesOfOtherDepthsThatItemsOnlySkips) {
   EXPECT_THAT(childPaths(*tool(""), ItemsOnly), ElementsAre("x/y", "/x//y/"));
   viewNames.values = {"viewer", "a/b", "graph", "", "/", "/x/", "a/b/c", "viewer"};
   EXPECT_THAT(childPaths(*view(""), ItemsOnly), ElementsAre("viewer", "graph", "/x/", "viewer"));

@@ -6,11 +6,11 @@
 #include <dlfcn.h>
 #include <gmock/gmock.h>
 
-// The constructors and destructors below stand before those of the host's libraries, so the module
-// calls them. They do the same, and note each object that lies in the module itself.
+// The constructors and destructors below take precedence over those of the host's libraries, so the
+// module calls them. They do the same, and note each object inside the module file.
 
-/// Standing before the library's definitions means two tables of virtual functions for one class,
-/// which the address sanitizer would report.
+/// Replacing the library's definitions gives a class two vtables, which the address sanitizer would
+/// report.
 extern "C" char const* __asan_default_options() { // NOLINT(bugprone-reserved-identifier)
   return "detect_odr_violation=0";
 }
@@ -21,7 +21,7 @@ namespace {
 
 bool noting = false;
 
-/// What has been made and destroyed, and how much the host had been asked to do by then.
+/// What was constructed and destroyed, with the number of host calls before.
 std::vector<std::string>& notes() {
   static std::vector<std::string> list;
   return list;
@@ -53,7 +53,7 @@ LiString::~LiString() { note(this, "~" + *this); }
 
 namespace {
 
-TEST(Statics, areMadeInOrderAndDestroyedInReverse) {
+TEST(Statics, areConstructedInOrderAndDestroyedInReverse) {
   HostJournal::getInstance().start();
   noting = true;
   void* const module = dlopen(PLUGINBROWSERQVMODULE_FILE, RTLD_NOW | RTLD_LOCAL);
@@ -62,7 +62,7 @@ TEST(Statics, areMadeInOrderAndDestroyedInReverse) {
   noting = false;
   HostJournal::getInstance().stop();
 
-  // The package is registered with its nine dependencies before the second static is made.
+  // The package is registered with its nine dependencies before the second static is constructed.
   EXPECT_THAT(notes(), testing::ElementsAre(
                            "pluginBrowserQvmodule after 0", "scheme.tif after 10",
                            "Tools Folder after 10", "Tool Category after 10", "Super Tool after 10",

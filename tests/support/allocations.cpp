@@ -8,13 +8,13 @@ namespace Qv {
 
 namespace {
 
-// Relaxed everywhere: counting must not order the threads under test, which would hide their races.
+// Relaxed: counting must not synchronise the threads under test, which would hide their races.
 constexpr auto Relaxed = std::memory_order_relaxed;
 std::atomic<long> live{0};
 std::atomic<int> untilFailure{0};
 
 void* allocateOrNull(std::size_t size) noexcept {
-  // To the byte, so that a sanitizer sees the first one behind the block.
+  // The exact size, so that a sanitizer detects an access just past the block.
   void* const block = std::malloc(std::max<std::size_t>(size, 1));
   if (block)
     live.fetch_add(1, Relaxed);
@@ -45,9 +45,9 @@ bool FailingAllocation::wasReached() const noexcept { return untilFailure.load(R
 
 } // namespace Qv
 
-// All forms but those for a larger alignment, which nothing here needs, are replaced, since a
-// sanitizer's own forms do not call each other. The forms that return null are never made to fail:
-// their callers carry on, so nothing could be expected.
+// All forms but the over-aligned ones, which nothing here needs, are replaced, since a sanitizer's
+// own forms do not call each other. The nothrow forms never fail: their callers carry on, so a
+// test could expect nothing.
 
 using NoThrow = std::nothrow_t;
 

@@ -8,11 +8,11 @@
 
 namespace Qv {
 
-/// How many blocks of operator new have not been deleted yet.
+/// The number of blocks of operator new not yet deleted.
 long liveAllocations() noexcept;
 
-/// While it lives, the n-th throwing allocation since its construction, on any thread, throws
-/// std::bad_alloc. One at a time.
+/// Makes the n-th throwing allocation after its construction, on any thread, throw std::bad_alloc.
+/// One at a time.
 class FailingAllocation {
 public:
   explicit FailingAllocation(int n) noexcept;
@@ -23,10 +23,10 @@ public:
   bool wasReached() const noexcept;
 };
 
-/// Runs `f` with its first, second, third ... allocation failing, until it passes without reaching
-/// the failure; after each failed run, runs `check`. Each failed run must end in std::bad_alloc,
-/// and no run may lose an allocation. Stops at the first run that breaks this.
-/// @returns how many allocations were made to fail.
+/// Runs `f` with its first, second, third ... allocation failing, until a run does not reach the
+/// failure; runs `check` after each failed run. Each failed run must throw std::bad_alloc, and no
+/// run may leak. Stops at the first run that breaks this.
+/// @returns the number of allocations that failed.
 template <class F, class Check = void (*)()>
 int forEachFailingAllocation(
     F f, Check check = [] {}) {
@@ -45,30 +45,30 @@ int forEachFailingAllocation(
     }
     if (thrown)
       check();
-    long const lost = liveAllocations() - before;
+    long const leaked = liveAllocations() - before;
     if (thrown != reached)
-      ADD_FAILURE() << "allocation " << n << " failed, and std::bad_alloc did not come out";
-    else if (lost != 0)
-      ADD_FAILURE() << lost << " allocations were lost when allocation " << n << " failed";
+      ADD_FAILURE() << "allocation " << n << " failed without throwing std::bad_alloc";
+    else if (leaked != 0)
+      ADD_FAILURE() << leaked << " allocations leaked when allocation " << n << " failed";
     else if (reached)
       continue;
     return n - 1;
   }
 }
 
-/// A test that must end with as many live allocations as it started with. What a derived class
-/// makes in its constructor must go with it.
+/// A test that must not leak. The destructor of a derived class must free what its
+/// constructor allocates.
 class NoLeaks : public testing::Test {
 protected:
   NoLeaks() {
-    // The first trace of a thread allocates what the thread then keeps.
+    // A thread's first trace allocates what the thread then keeps.
     { SCOPED_TRACE(""); }
     before_ = liveAllocations();
   }
   ~NoLeaks() override {
-    // The record of a failure is an allocation too.
+    // Recording a failure allocates too.
     if (!HasFailure()) {
-      EXPECT_EQ(liveAllocations() - before_, 0) << "allocations were lost";
+      EXPECT_EQ(liveAllocations() - before_, 0) << "allocations leaked";
     }
   }
 

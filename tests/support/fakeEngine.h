@@ -6,13 +6,13 @@
 
 namespace Qv {
 
-/// A sequence whose engines answer as a test wants them to.
+/// A sequence whose engines a test controls.
 template <class T> struct FakeSequence {
   std::vector<T> values;
-  /// What the engines answer, be it true or not.
+  /// What the engines return, true or not.
   int cardinality = -1;
   bool clonesToNull = false;
-  /// How many clones have been made.
+  /// The number of clones made.
   int clones = 0;
 };
 
@@ -46,7 +46,7 @@ private:
   std::size_t position_ = 0;
 };
 
-/// An iterator over a sequence, standing on the first element.
+/// An iterator at the first element of a sequence.
 template <class T> Iterator<T> iteratorOver(FakeSequence<T>& sequence) {
   return Iterator<T>(RCPvtEngPtr<IteratorImp<T>>(new FakeEngine<T>(sequence)));
 }

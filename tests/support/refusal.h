@@ -5,7 +5,7 @@
 
 namespace Qv {
 
-/// The reason that the HostError thrown by `f` gives.
+/// The message of the HostError that `f` throws.
 template <class F> std::string refusalOf(F f) { return thrownBy<HostError>(f).what(); }
 
 } // namespace Qv

@@ -8,9 +8,9 @@
 
 namespace Qv {
 
-/// Runs `f` as on a kernel that has none of these system calls.
+/// Runs `f` as on a kernel without these system calls.
 template <class F> void runWithoutCalls(std::initializer_list<int> calls, F f) {
-  // A filter stays for as long as its thread.
+  // A filter lasts as long as its thread.
   std::thread([&] {
     auto* const filter = seccomp_init(SCMP_ACT_ALLOW);
     int failed = 0;
@@ -19,7 +19,7 @@ template <class F> void runWithoutCalls(std::initializer_list<int> calls, F f) {
     failed |= seccomp_load(filter);
     seccomp_release(filter);
     if (failed != 0)
-      throw std::runtime_error("the system calls cannot be refused");
+      throw std::runtime_error("cannot filter the system calls");
     f();
   }).join();
 }

@@ -9,7 +9,7 @@
 
 namespace Qv {
 
-/// How many objects the registries hold that a module registers, by the call that puts them there.
+/// The number of objects in the registries, by the call that registers them.
 inline std::map<std::string, std::size_t> registered() {
   HostBrRegistry const& browser = HostBrRegistry::getInstance();
   return {{"InBuildInfoUtil::registerInfo", HostBuildInfoRegistry::getInstance().getInfos().size()},

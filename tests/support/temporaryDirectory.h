@@ -9,7 +9,7 @@
 
 namespace Qv {
 
-/// A directory of its own for each test that derives from it, removed with all that is in it.
+/// A directory for each test that derives from it, removed with its contents.
 class TemporaryDirectory {
 protected:
   TemporaryDirectory() {

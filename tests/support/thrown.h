@@ -6,7 +6,7 @@
 
 namespace Qv {
 
-/// The `Ex` that `f` throws. Whatever was passed to its constructor may be gone by then.
+/// The `Ex` that `f` throws; what was passed to its constructor may be destroyed by then.
 template <class Ex, class F> Ex thrownBy(F f) {
   try {
     f();
