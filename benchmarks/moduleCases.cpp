@@ -33,7 +33,7 @@ public:
                           .category = numbered("Category", category),
                           .infoTexts = {"Short", "Short", "Short"}});
     }
-    HostTtServer::getInstance().setTooltip("Tool0", "Tip");
+    HostTtServer::getInstance().addTooltip("Tool0", "Tip");
   }
   ~Host() {
     HostTtServer::getInstance().clear();

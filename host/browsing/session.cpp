@@ -65,7 +65,7 @@ void Session::refill(std::vector<ToolSource> sources) {
   plugins_.clear();
   for (ToolSource const& source : sources)
     plugins_.insert(plugins_.end(), source.plugins.begin(), source.plugins.end());
-  registerToolSources(sources);
+  registerToolSources(std::move(sources));
 }
 
 Session::Registries::~Registries() {

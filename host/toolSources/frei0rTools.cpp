@@ -78,10 +78,11 @@ ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache,
     categories.insert(result.category);
     std::string const origin = fmt::format("{}{}version {}", result.author,
                                            result.author.empty() ? "" : ", ", result.version);
-    source.tools.push_back({.info = {.name = file.stem(),
-                                     .category = result.category,
-                                     .infoTexts = {result.name, result.explanation, origin}},
-                            .tooltip = describe(result.parameters)});
+    HostToolInfo info = {.name = file.stem(),
+                         .category = result.category,
+                         .infoTexts = {result.name, result.explanation, origin}};
+    source.tools.push_back(
+        {RCShdPtr<HostTool const>(new HostTool(std::move(info))), describe(result.parameters)});
   }
   for (char const* const category : PluginCategories)
     if (categories.contains(category))

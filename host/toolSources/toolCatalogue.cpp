@@ -1,16 +1,20 @@
 #include "toolCatalogue.h"
 
+#include "descriptor.h"
 #include "hostError.h"
 #include "hostPath.h"
-#include "readFile.h"
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
 #include <fmt/format.h>
-#include <initializer_list>
 #include <nlohmann/json.hpp>
-#include <string_view>
+#include <span>
+#include <system_error>
+#include <unordered_map>
 #include <unordered_set>
-#include <utility>
 
 namespace Qv {
 
@@ -26,82 +30,211 @@ struct Fault {
   std::string reason;
 };
 
-/// Line and column, both from 1, of the character that the byte at `offset` belongs to.
-std::string lineAndColumn(std::string const& text, std::size_t offset) {
-  auto const end = text.begin() + std::ptrdiff_t(std::min(offset, text.size()));
-  auto const line = std::find(std::reverse_iterator(end), text.rend(), '\n').base();
-  auto const startsCharacter = [](char c) { return (c & 0xC0) != 0x80; };
-  return fmt::format("line {}, column {}", 1 + std::count(text.begin(), line, '\n'),
-                     1 + std::count_if(line, end, startsCharacter));
-}
-
-/// Builds the value of a JSON text, in which no object may repeat a key. The library's own builder
-/// keeps the last of them; with a callback that could refuse, it needs quadratic time.
-class Builder final : public nlohmann::json_sax<Json> {
+/// The bytes of a file, read block by block.
+class Input {
 public:
-  static Json build(std::string const& text) {
-    Builder builder(text);
-    Json::sax_parse(text, static_cast<nlohmann::json_sax<Json>*>(&builder));
-    return std::move(builder.root_);
+  explicit Input(fs::path const& file) : file_(open(file.c_str(), O_RDONLY | O_CLOEXEC)) {
+    check(file_.get());
+  }
+
+  bool atEnd() { return next_ == end_ && !readBlock(); }
+  char get() const { return *next_; }
+  void advance() { ++next_; }
+
+  /// Line and column, both from 1, of the character that the byte at `offset` belongs to. It is the
+  /// last byte that was read, or the end.
+  std::string placeOf(std::size_t offset) {
+    count(block_.data() + std::min(offset - start_, std::size_t(end_ - block_.data())));
+    return fmt::format("line {}, column {}", line_ + 1, column_ + 1);
   }
 
 private:
-  /// An object or array that is not closed yet.
-  struct Level {
-    Json* value;
-    /// Of the member that comes next; unused in an array.
-    std::string key;
-  };
-
-  explicit Builder(std::string const& text) : text_(text) {}
-
-  Json& add(Json value) {
-    if (levels_.empty())
-      return root_ = std::move(value);
-    auto& [parent, key] = levels_.back();
-    Json& slot = parent->is_array() ? parent->emplace_back() : (*parent)[key];
-    return slot = std::move(value);
+  static void check(ssize_t status) {
+    if (status < 0)
+      throw std::system_error(errno, std::generic_category());
   }
-  bool addLeaf(Json value) {
-    add(std::move(value));
+
+  bool readBlock() {
+    count(end_);
+    start_ += std::size_t(end_ - block_.data());
+    ssize_t size = 0;
+    do
+      size = read(file_.get(), block_.data(), block_.size());
+    while (size < 0 && errno == EINTR);
+    check(size);
+    next_ = block_.data();
+    end_ = next_ + size;
+    // The parser would take it for the end of the text.
+    if (auto const* const zero = std::find(next_, end_, '\0'); zero != end_)
+      throw Fault{placeOf(start_ + std::size_t(zero - next_)), "zero byte"};
+    return size > 0;
+  }
+
+  /// Counts the lines, and the characters of the last one, up to a byte of the block.
+  void count(char const* end) {
+    char const* begin = block_.data();
+    line_ += std::size_t(std::count(begin, end, '\n'));
+    if (void const* const newline = memrchr(begin, '\n', std::size_t(end - begin))) {
+      column_ = 0;
+      begin = static_cast<char const*>(newline) + 1;
+    }
+    auto const startsCharacter = [](char c) { return (c & 0xC0) != 0x80; };
+    column_ += std::size_t(std::count_if(begin, end, startsCharacter));
+  }
+
+  Descriptor file_;
+  std::array<char, 1 << 16> block_;
+  char const* next_ = block_.data();
+  char const* end_ = block_.data();
+  /// Where the block starts in the file, in bytes, and in lines and columns.
+  std::size_t start_ = 0;
+  std::size_t line_ = 0;
+  std::size_t column_ = 0;
+};
+
+/// An iterator over the bytes of an input; null is the end.
+struct InputIterator {
+  using iterator_category = std::input_iterator_tag;
+  using value_type = char;
+  using difference_type = std::ptrdiff_t;
+  using pointer = char const*;
+  using reference = char;
+
+  char operator*() const { return input->get(); }
+  InputIterator& operator++() {
+    input->advance();
+    return *this;
+  }
+  bool operator!=(InputIterator const& /*end*/) const { return !input->atEnd(); }
+
+  Input* input;
+};
+
+enum Type : std::uint8_t { Object, Array, String, Flag };
+constexpr char const* TypeNames[] = {"an object", "an array", "a string", "true or false"};
+
+/// A key that an object may have.
+struct Key {
+  char const* name;
+  Type type;
+  /// What the value names if it is a name, which is then required.
+  char const* component = nullptr;
+};
+
+constexpr Key RootKeys[] = {{"categories", Array}, {"tools", Array}, {"views", Array}};
+constexpr Key ToolKeys[] = {{"name", String, "tool name"},
+                            {"category", String, "category name"},
+                            {"active", Flag},
+                            {"internal", Flag},
+                            {"superTool", Flag},
+                            {"texts", Array},
+                            {"tooltip", String}};
+constexpr Key ViewKeys[] = {{"name", String, "view name"}, {"label", String}, {"tooltip", String}};
+
+/// Takes a catalogue as the parser reads it.
+class Parser {
+public:
+  explicit Parser(Input& input) : input_(input) {}
+
+  ToolSource parse() {
+    Json::sax_parse(InputIterator{&input_}, InputIterator{}, this);
+    return std::move(source_);
+  }
+
+  bool null() { refuse("null"); }
+  bool number_integer(Json::number_integer_t) { refuse("number"); }
+  bool number_unsigned(Json::number_unsigned_t) { refuse("number"); }
+  bool number_float(Json::number_float_t, std::string const&) { refuse("number"); }
+  bool binary(Json::binary_t&) { refuse("binary"); }
+
+  bool boolean(bool value) {
+    expect(Flag, "boolean");
+    *std::array{&tool_.active, &tool_.internal, &tool_.superTool}[levels_.back().index - 2] = value;
     return true;
   }
-  bool open(Json value) {
-    levels_.push_back({&add(std::move(value)), {}});
+
+  bool string(std::string const& value) {
+    expect(String, "string");
+    Level& level = levels_.back();
+    if (!level.keys.empty()) {
+      Key const& key = level.keys[level.index];
+      if (key.component)
+        requireComponent(value, key.component);
+      *textAt(level.index) = value;
+    } else if (levels_.size() == 2) {
+      requireComponent(value, "category name");
+      source_.categories.push_back(value);
+      ++level.index;
+    } else {
+      if (level.index < tool_.infoTexts.size())
+        tool_.infoTexts[level.index] = value;
+      ++level.index;
+    }
     return true;
   }
-  bool close() {
+
+  bool start_array(std::size_t) {
+    expect(Array, "array");
+    levels_.push_back({});
+    return true;
+  }
+
+  bool end_array() {
+    std::size_t const size = levels_.back().index;
     levels_.pop_back();
+    if (levels_.size() == 3 && size != 3)
+      throw fault(fmt::format("expected three texts, found {}", size));
     return true;
   }
 
-  bool null() override { return addLeaf(nullptr); }
-  bool boolean(bool value) override { return addLeaf(value); }
-  bool number_integer(Json::number_integer_t value) override { return addLeaf(value); }
-  bool number_unsigned(Json::number_unsigned_t value) override { return addLeaf(value); }
-  bool number_float(Json::number_float_t value, std::string const&) override {
-    return addLeaf(value);
-  }
-  bool string(std::string& value) override { return addLeaf(std::move(value)); }
-  bool binary(Json::binary_t& value) override { return addLeaf(std::move(value)); }
-  bool start_object(std::size_t) override { return open(Json::object()); }
-  bool end_object() override { return close(); }
-  bool start_array(std::size_t) override { return open(Json::array()); }
-  bool end_array() override { return close(); }
-
-  bool key(std::string& key) override {
-    bool const repeated = levels_.back().value->contains(key);
-    levels_.back().key = std::move(key);
-    if (!repeated)
-      return true;
-    Json::json_pointer place;
-    for (auto const& [value, key] : levels_)
-      value->is_array() ? place /= value->size() - 1 : place /= key;
-    throw Fault{place.to_string(), "this key was given before"};
+  bool start_object(std::size_t) {
+    expect(Object, "object");
+    if (levels_.empty())
+      levels_.push_back({RootKeys});
+    else if (inTools()) {
+      levels_.push_back({ToolKeys});
+      tool_ = {};
+      tooltip_.clear();
+    } else {
+      levels_.push_back({ViewKeys});
+      source_.views.emplace_back();
+    }
+    return true;
   }
 
-  bool parse_error(std::size_t bytesRead, std::string const& lastToken,
-                   Json::exception const& error) override {
+  bool key(std::string const& name) {
+    Level& level = levels_.back();
+    auto const found = std::find_if(level.keys.begin(), level.keys.end(),
+                                    [&](Key const& key) { return name == key.name; });
+    if (found == level.keys.end()) {
+      levels_.pop_back();
+      throw Fault{(place() / name).to_string(), "unknown key"};
+    }
+    level.index = std::size_t(found - level.keys.begin());
+    if (level.has(level.index))
+      throw fault("duplicate key");
+    level.seen |= 1U << level.index;
+    return true;
+  }
+
+  bool end_object() {
+    Level& level = levels_.back();
+    bool const labelled = level.has(1);
+    for (level.index = 0; level.index < level.keys.size(); ++level.index)
+      if (level.keys[level.index].component && !level.has(level.index))
+        throw fault("missing key");
+    if (levels_.size() == 1) {
+      finish(level.has(0));
+    } else {
+      levels_.pop_back();
+      inTools() ? finishTool() : finishView(labelled);
+      ++levels_.back().index;
+    }
+    return true;
+  }
+
+  [[noreturn]] bool parse_error(std::size_t bytesRead, std::string const& lastToken,
+                                Json::exception const& error) {
     std::string reason = error.what();
     reason.erase(0, reason.find("] ") + 2);
     if (reason.starts_with("parse error"))
@@ -110,190 +243,116 @@ private:
     std::string const lastRead = "; last read: '" + lastToken + "'";
     if (auto const at = reason.find(lastRead); at != std::string::npos)
       reason.erase(at, lastRead.size());
-    throw Fault{lineAndColumn(text_, bytesRead - 1), reason};
+    throw Fault{input_.placeOf(bytesRead - 1), reason};
   }
 
-  std::string const& text_;
-  Json root_;
-  std::vector<Level> levels_;
-};
+private:
+  /// An object or array that is not closed yet.
+  struct Level {
+    /// Empty for an array.
+    std::span<Key const> keys = {};
+    /// Of the key or element that is read.
+    std::size_t index = 0;
+    /// The keys that were read, a bit each.
+    unsigned seen = 0;
 
-/// Where a value is in the catalogue, written out only when it is at fault.
-class Place {
-public:
-  Place() = default;
-  Place(Place const& parent, std::string step) : parent_(&parent), step_(std::move(step)) {}
+    bool has(std::size_t key) const { return (seen >> key & 1U) != 0; }
+  };
 
+  /// The JSON pointer of the value that is read.
+  Json::json_pointer place() const {
+    Json::json_pointer place;
+    for (Level const& level : levels_)
+      level.keys.empty() ? place /= level.index : place /= level.keys[level.index].name;
+    return place;
+  }
   Fault fault(std::string reason) const {
-    std::string const place = pointer().to_string();
-    return {place.empty() ? "the root" : place, std::move(reason)};
-  }
-  Fault wrongType(char const* expected, Json const& value) const {
-    return fault(fmt::format("expected {}, found {}", expected, value.type_name()));
+    return {levels_.empty() ? "the root" : place().to_string(), std::move(reason)};
   }
 
-private:
-  Json::json_pointer pointer() const {
-    return parent_ ? parent_->pointer() / step_ : Json::json_pointer();
+  Type expected() const {
+    if (levels_.empty())
+      return Object;
+    if (Level const& level = levels_.back(); !level.keys.empty())
+      return level.keys[level.index].type;
+    return levels_.size() == 2 && levels_.front().index > 0 ? Object : String;
+  }
+  void expect(Type type, char const* found) const {
+    if (expected() != type)
+      refuse(found);
+  }
+  [[noreturn]] void refuse(char const* found) const {
+    throw fault(fmt::format("expected {}, found {}", TypeNames[expected()], found));
+  }
+  void requireComponent(std::string const& name, char const* what) const {
+    try {
+      HostPath::requireComponent(name, what);
+    } catch (HostError const& error) {
+      throw fault(error.what());
+    }
   }
 
-  Place const* parent_ = nullptr;
-  std::string step_;
+  /// Whether what is read is in the list of tools, not of views.
+  bool inTools() const { return levels_.front().index == 1; }
+
+  std::string* textAt(std::size_t key) {
+    if (!inTools())
+      return std::array{&source_.views.back().name, &source_.views.back().label,
+                        &source_.views.back().tooltip}[key];
+    return key == 0 ? &tool_.name : key == 1 ? &tool_.category : &tooltip_;
+  }
+
+  void finishTool() {
+    if (known_.insert(tool_.category).second)
+      usedCategories_.emplace_back(tool_.category, levels_.back().index);
+    source_.tools.push_back(
+        {RCShdPtr<HostTool const>(new HostTool(std::move(tool_))), std::move(tooltip_)});
+  }
+
+  void finishView(bool labelled) {
+    ToolSource::View& view = source_.views.back();
+    if (!views_.insert(view.name).second)
+      throw Fault{(place() / "name").to_string(), fmt::format("duplicate view \"{}\"", view.name)};
+    if (!labelled)
+      view.label = view.name;
+  }
+
+  void finish(bool listed) {
+    std::unordered_set<std::string> const categories(source_.categories.begin(),
+                                                     source_.categories.end());
+    for (auto const& [category, tool] : usedCategories_)
+      if (!listed)
+        source_.categories.push_back(category);
+      else if (!categories.contains(category))
+        throw Fault{fmt::format("/tools/{}/category", tool),
+                    fmt::format("the category \"{}\" is not listed", category)};
+  }
+
+  Input& input_;
+  ToolSource source_;
+  /// The tool that is read.
+  HostToolInfo tool_;
+  std::string tooltip_;
+  std::vector<Level> levels_;
+  /// The categories of tools, and the first tool of each.
+  std::vector<std::pair<std::string, std::size_t>> usedCategories_;
+  std::unordered_set<std::string> known_;
+  std::unordered_set<std::string> views_;
 };
-
-std::string takeString(Json& value, Place const& place) {
-  if (!value.is_string())
-    throw place.wrongType("a string", value);
-  return std::move(value.get_ref<std::string&>());
-}
-
-/// @param what says what the name is for, for instance "tool name".
-std::string takeName(Json& value, Place const& place, char const* what) {
-  std::string name = takeString(value, place);
-  try {
-    HostPath::requireComponent(name, what);
-  } catch (HostError const& error) {
-    throw place.fault(error.what());
-  }
-  return name;
-}
-
-/// Calls `take` with each element of an array and its place.
-template <class Take> void forEach(Json& array, Place const& place, Take take) {
-  if (!array.is_array())
-    throw place.wrongType("an array", array);
-  std::size_t index = 0;
-  for (Json& element : array)
-    take(element, Place(place, std::to_string(index++)));
-}
-
-/// An object whose keys are all known.
-class Object {
-public:
-  Object(Json& value, Place const& place, std::initializer_list<std::string_view> known)
-      : value_(value), place_(place) {
-    if (!value.is_object())
-      throw place.wrongType("an object", value);
-    for (auto const& [key, member] : value.get_ref<Json::object_t const&>())
-      if (std::find(known.begin(), known.end(), key) == known.end())
-        throw Place(place, key).fault("this key is unknown");
-  }
-
-  /// Calls `take` with the member and its place; does nothing when there is no such member.
-  template <class Take> bool with(char const* key, Take take) {
-    auto const member = value_.find(key);
-    if (member == value_.end())
-      return false;
-    take(*member, Place(place_, key));
-    return true;
-  }
-  std::string takeName(char const* key, char const* what) {
-    std::string name;
-    auto const take = [&](Json& value, Place const& place) {
-      name = Qv::takeName(value, place, what);
-    };
-    if (!with(key, take))
-      throw Place(place_, key).fault("this key is missing");
-    return name;
-  }
-  std::string takeText(char const* key, std::string text = "") {
-    with(key, [&](Json& value, Place const& place) { text = takeString(value, place); });
-    return text;
-  }
-  bool takeFlag(char const* key, bool flag) {
-    with(key, [&](Json& value, Place const& place) {
-      if (!value.is_boolean())
-        throw place.wrongType("true or false", value);
-      flag = value.get<bool>();
-    });
-    return flag;
-  }
-
-private:
-  Json& value_;
-  Place const& place_;
-};
-
-ToolSource::Tool takeTool(Json& value, Place const& place) {
-  Object object(value, place,
-                {"name", "category", "active", "internal", "superTool", "texts", "tooltip"});
-  ToolSource::Tool tool;
-  HostToolInfo& info = tool.info;
-  info.name = object.takeName("name", "tool name");
-  info.category = object.takeName("category", "category name");
-  info.active = object.takeFlag("active", true);
-  info.internal = object.takeFlag("internal", false);
-  info.superTool = object.takeFlag("superTool", false);
-  object.with("texts", [&](Json& texts, Place const& textsPlace) {
-    if (texts.is_array() && texts.size() != info.infoTexts.size())
-      throw textsPlace.fault(fmt::format("expected three texts, found {}", texts.size()));
-    auto text = info.infoTexts.begin();
-    forEach(texts, textsPlace,
-            [&](Json& element, Place const& at) { *text++ = takeString(element, at); });
-  });
-  tool.tooltip = object.takeText("tooltip");
-  return tool;
-}
-
-ToolSource::View takeView(Json& value, Place const& place) {
-  Object object(value, place, {"name", "label", "tooltip"});
-  ToolSource::View view;
-  view.name = object.takeName("name", "view name");
-  view.label = object.takeText("label", view.name);
-  view.tooltip = object.takeText("tooltip");
-  return view;
-}
-
-ToolSource takeCatalogue(Json& value) {
-  Place const root;
-  Object object(value, root, {"categories", "tools", "views"});
-  ToolSource source;
-  std::unordered_set<std::string> known;
-  bool const listed = object.with("categories", [&](Json& categories, Place const& place) {
-    forEach(categories, place, [&](Json& category, Place const& at) {
-      source.categories.push_back(takeName(category, at, "category name"));
-      known.insert(source.categories.back());
-    });
-  });
-  object.with("tools", [&](Json& tools, Place const& place) {
-    forEach(tools, place, [&](Json& tool, Place const& at) {
-      source.tools.push_back(takeTool(tool, at));
-      std::string const& category = source.tools.back().info.category;
-      if (!known.insert(category).second)
-        return;
-      if (listed)
-        throw Place(at, "category")
-            .fault(fmt::format("the category \"{}\" is not listed", category));
-      source.categories.push_back(category);
-    });
-  });
-  object.with("views", [&](Json& views, Place const& place) {
-    std::unordered_set<std::string> names;
-    forEach(views, place, [&](Json& view, Place const& at) {
-      source.views.push_back(takeView(view, at));
-      std::string const& name = source.views.back().name;
-      if (!names.insert(name).second)
-        throw Place(at, "name").fault(fmt::format("there is a view \"{}\" before", name));
-    });
-  });
-  return source;
-}
 
 } // namespace
 
 ToolSource readToolCatalogue(fs::path const& file) {
-  std::string text;
   try {
-    text = readFile(file);
-  } catch (HostError const& error) {
-    throw HostError(
-        fmt::format("cannot read the catalogue \"{}\": {}", file.string(), error.what()));
-  }
-  try {
-    Json catalogue = Builder::build(text);
-    ToolSource source = takeCatalogue(catalogue);
+    Input input(file);
+    ToolSource source = Parser(input).parse();
     source.origin = file;
     return source;
+  } catch (std::system_error const& error) {
+    throw HostError(
+        fmt::format("cannot read the catalogue \"{}\": {}", file.string(), error.code().message()));
+  } catch (std::bad_alloc const&) {
+    throw HostError(fmt::format("cannot read the catalogue \"{}\": out of memory", file.string()));
   } catch (Fault& fault) {
     // An error's text would end at a zero byte of a key.
     for (std::size_t at = 0; (at = fault.place.find('\0')) != std::string::npos;)

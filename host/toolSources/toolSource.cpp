@@ -11,35 +11,33 @@
 
 namespace Qv {
 
-void registerToolSources(std::vector<ToolSource> const& sources) {
+void registerToolSources(std::vector<ToolSource> sources) {
   std::unordered_map<std::string, std::string> origins;
   for (ToolSource const& source : sources)
     for (ToolSource::View const& view : source.views)
       if (auto const [first, added] = origins.emplace(view.name, source.origin); !added)
-        throw HostError(fmt::format("\"{}\" has a view \"{}\", which \"{}\" has already",
-                                    source.origin, view.name, first->second));
+        throw HostError(fmt::format("\"{}\" and \"{}\" have a view of the same name, \"{}\"",
+                                    first->second, source.origin, view.name));
 
   HostToolRegistry& registry = HostToolRegistry::getInstance();
+  HostTtServer& tooltips = HostTtServer::getInstance();
   std::unordered_set<std::string> known;
-  std::unordered_map<std::string, std::string> tooltips;
-  for (ToolSource const& source : sources) {
+  for (ToolSource& source : sources) {
     for (std::string const& category : source.categories)
       if (!known.contains(category))
         registry.addCategory(category);
     known.insert(source.categories.begin(), source.categories.end());
-    for (ToolSource::Tool const& tool : source.tools) {
-      registry.addTool(tool.info);
-      if (!tool.tooltip.empty())
-        tooltips.emplace(tool.info.name, tool.tooltip);
+    for (auto& [tool, tooltip] : source.tools) {
+      registry.addTool(tool);
+      if (!tooltip.empty())
+        tooltips.addTooltip(tool->getInfo().name, std::move(tooltip));
     }
-    for (ToolSource::View const& view : source.views) {
-      HostViewFactory::getInstance().addView({view.name, view.label});
-      if (!view.tooltip.empty())
-        tooltips.emplace(view.name, view.tooltip);
+    for (auto& [name, label, tooltip] : source.views) {
+      if (!tooltip.empty())
+        tooltips.addTooltip(name, std::move(tooltip));
+      HostViewFactory::getInstance().addView({std::move(name), std::move(label)});
     }
   }
-  for (auto const& [name, tooltip] : tooltips)
-    HostTtServer::getInstance().setTooltip(name, tooltip);
 }
 
 } // namespace Qv

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hostTool.h"
+#include "rcShdPtr.h"
 #include "scanResult.h"
 
 #include <filesystem>
@@ -15,7 +16,7 @@ struct ToolSource {
   std::string origin;
 
   struct Tool {
-    HostToolInfo info;
+    RCShdPtr<HostTool const> tool;
     /// Empty when there is none.
     std::string tooltip;
   };
@@ -60,6 +61,6 @@ struct ToolSource {
 /// the tooltips of both to its tooltip server. A category that an earlier source lists is not added
 /// again; under one name, the first tooltip stays.
 /// @throws HostError when two sources have a view of the same name; nothing is registered then.
-void registerToolSources(std::vector<ToolSource> const& sources);
+void registerToolSources(std::vector<ToolSource> sources);
 
 } // namespace Qv

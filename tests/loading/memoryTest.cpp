@@ -129,7 +129,7 @@ protected:
     tools.addTool({.name = SuperTool, .category = Category, .superTool = true});
     HostViewFactory::getInstance().addView({View, Text});
     for (std::string const& name : {Tool, View})
-      HostTtServer::getInstance().setTooltip(name, Text);
+      HostTtServer::getInstance().addTooltip(name, Text);
     start();
   }
   static void TearDownTestSuite() {

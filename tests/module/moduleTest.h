@@ -33,7 +33,7 @@ protected:
     tools_.addCategory("x");
     tools_.addTool({.name = "x", .category = "x", .superTool = true});
     views_.addView({"x", "x"});
-    tooltips_.setTooltip("x", "x");
+    tooltips_.addTooltip("x", "x");
     journal_.start();
     initializePackage();
     reset();

@@ -92,8 +92,8 @@ TEST_F(ToolBrowsable, equalsItemsOfTheSamePath) {
 }
 
 TEST_F(ToolBrowsable, composesItsTooltip) {
-  tooltips_.setTooltip("invert", "Swaps light and dark");
-  tooltips_.setTooltip("Colour", "All about colour");
+  tooltips_.addTooltip("invert", "Swaps light and dark");
+  tooltips_.addTooltip("Colour", "All about colour");
   EXPECT_EQ(tool("Key")->getTooltip(0), "Key");
   EXPECT_EQ(tool("Colour")->getTooltip(0), "Colour<br>All about colour");
   EXPECT_EQ(tool("Colour/invert")->getTooltip(9), "Inverts<br>Swaps light and dark");

@@ -14,8 +14,8 @@ protected:
   ViewBrowsable() {
     views_.addView({"graph", "Node Graph"});
     views_.addView({"Views", "All Views"});
-    tooltips_.setTooltip("graph", "Shows the nodes");
-    tooltips_.setTooltip("Views", "What can be opened");
+    tooltips_.addTooltip("graph", "Shows the nodes");
+    tooltips_.addTooltip("Views", "What can be opened");
   }
 };
 

@@ -58,7 +58,7 @@ TEST_F(Frei0rTools, AreListedByFileAndByType) {
   ToolSource const source = read();
   std::vector<std::string> names;
   for (ToolSource::Tool const& tool : source.tools)
-    names.push_back(tool.info.name + " in " + tool.info.category);
+    names.push_back(tool.tool->getInfo().name + " in " + tool.tool->getInfo().category);
   EXPECT_THAT(names, ElementsAre("b.x in Source", "c in Source", "mute in Mixer2"));
   EXPECT_THAT(source.categories, ElementsAre("Source", "Mixer2"));
 }
@@ -67,9 +67,9 @@ TEST_F(Frei0rTools, SayWhatThePluginSays) {
   install("clouds");
   install("mute");
   // From the plug-ins, and from the cache.
-  for (std::vector<ToolSource::Tool> const& tools : {read().tools, read().tools}) {
+  for (auto const& tools : {read().tools, read().tools}) {
     ASSERT_EQ(tools.size(), 2U);
-    EXPECT_THAT(tools[0].info.infoTexts,
+    EXPECT_THAT(tools[0].tool->getInfo().infoTexts,
                 ElementsAre("Clouds/Sky", "Paints clouds.", "A. Painter, version 2.10"));
     EXPECT_EQ(tools[0].tooltip, "Moving (bool): Whether they move<br>"
                                 "Density (double)<br>"
@@ -77,7 +77,7 @@ TEST_F(Frei0rTools, SayWhatThePluginSays) {
                                 "Sun (position)<br>"
                                 "Kind (string): cirrus or cumulus<br>"
                                 "unnamed (unknown type)");
-    EXPECT_THAT(tools[1].info.infoTexts, ElementsAre("", "", "version 0.0"));
+    EXPECT_THAT(tools[1].tool->getInfo().infoTexts, ElementsAre("", "", "version 0.0"));
     EXPECT_EQ(tools[1].tooltip, "");
   }
 }
@@ -204,7 +204,7 @@ TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
       EXPECT_EQ(plugin.cached, cached);
     }
     for (ToolSource::Tool const& tool : source.tools)
-      outcomes[tool.info.name] = tool.info.infoTexts[1];
+      outcomes[tool.tool->getInfo().name] = tool.tool->getInfo().infoTexts[1];
     EXPECT_EQ(outcomes, expected);
   }
   for (char const* const file : {"written", "plugins/written", "home/written", "home/executed"})
@@ -248,7 +248,7 @@ TEST_F(Frei0rTools, LeaveNothingBehindWhereTheyCannotBeIsolated) {
                 AllOf(testing::SizeIs(2), Each(HasSubstr("Function not implemented"))));
     EXPECT_THAT(refusalOf([&] { read({.requireIsolation = true}); }),
                 AllOf(HasSubstr("Landlock"), HasSubstr("seccomp")));
-    EXPECT_EQ(read().tools.at(0).info.infoTexts[1], "done");
+    EXPECT_EQ(read().tools.at(0).tool->getInfo().infoTexts[1], "done");
   });
   // It would still hold the pipe if it lived.
   EXPECT_EQ(poll(&lives, 1, 0), 1);

@@ -7,6 +7,9 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
+#include <sys/resource.h>
+
 namespace Qv {
 
 namespace {
@@ -15,13 +18,15 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
+using namespace std::string_literals;
+
 std::string refusal(std::filesystem::path const& file) {
   return refusalOf([&] { readToolCatalogue(file); });
 }
 
 struct Refused {
   char const* name;
-  char const* text;
+  std::string text;
   char const* place;
   char const* reason;
 };
@@ -36,14 +41,18 @@ Refused const Faults[] = {
     {"NoUtf8", "{\"views\": \"\xff\"}", "line 1, column 12", "UTF-8"},
     {"NumberTooLarge", "{\n\"tools\": 1e999}", "line 2, column 14", "overflow"},
     {"SecondValue", "{}\n{}", "line 2, column 1", "end of input"},
+    {"ZeroByte", "{\n\0}"s, "line 2, column 1", "zero byte"},
+    {"ZeroByteAtTheEnd", "{}\0"s, "line 1, column 3", "zero byte"},
+    {"FarDownALongLine", "{\n" + std::string(200'000, ' ') + "ä", "line 2, column 200001", "key"},
+    {"FarDown", std::string(200'000, '\n') + "{ä", "line 200001, column 2", "key"},
 
     {"NoObject", "[]", "the root", "found array"},
     {"UnknownKey", R"({"tool": []})", "/tool", "unknown"},
     {"NoArray", R"({"views": {}})", "/views", "found object"},
-    {"RepeatedKey", R"({"tools": [], "tools": []})", "/tools", "before"},
+    {"RepeatedKey", R"({"tools": [], "tools": []})", "/tools", "duplicate key"},
     {"RepeatedKeyDeepDown",
      R"({"views": [{"name": "v"}, {"name": "w", "label": "", "name": "x"}]})", "/views/1/name",
-     "before"},
+     "duplicate key"},
 
     {"CategoryOfWrongType", R"({"categories": ["a", 1]})", "/categories/1", "found number"},
     {"CategoryWithSlash", R"({"categories": ["a/b"]})", "/categories/0", "\"a/b\" holds"},
@@ -72,7 +81,7 @@ Refused const Faults[] = {
 
     {"ViewWithSlash", R"({"views": [{"name": "v/w"}]})", "/views/0/name", "holds"},
     {"ViewRepeated", R"({"views": [{"name": "v"}, {"name": "w"}, {"name": "v"}]})", "/views/2/name",
-     "\"v\" before"},
+     "duplicate view \"v\""},
     {"LabelOfWrongType", R"({"views": [{"name": "v", "label": null}]})", "/views/0/label",
      "found null"},
 };
@@ -108,11 +117,13 @@ TEST_F(ToolCatalogue, ThatCannotBeReadIsRefused) {
 /// The info of each tool, in words.
 std::vector<std::string> toolsOf(ToolSource const& source) {
   std::vector<std::string> result;
-  for (auto const& [info, tooltip] : source.tools)
+  for (auto const& [tool, tooltip] : source.tools) {
+    HostToolInfo const& info = tool->getInfo();
     result.push_back(info.name + " in " + info.category + (info.active ? ", active" : "") +
                      (info.internal ? ", internal" : "") + (info.superTool ? ", super" : "") +
                      ": " + info.infoTexts[0] + "/" + info.infoTexts[1] + "/" + info.infoTexts[2] +
                      "; " + tooltip);
+  }
   return result;
 }
 
@@ -132,10 +143,10 @@ TEST_F(ToolCatalogue, HasDefaultsForAllButNames) {
 
 TEST_F(ToolCatalogue, IsTakenAsItSays) {
   ToolSource const source = readToolCatalogue(write("catalogue.json", R"({
-    "categories": ["z", "a", "z"],
     "tools": [{"name": "t", "category": "a", "active": false, "superTool": true,
                "texts": ["one", "two", "\u0033"], "tooltip": "tool tip"},
               {"name": "u", "category": "z", "internal": true}],
+    "categories": ["z", "a", "z"],
     "views": [{"name": "v", "label": "", "tooltip": "view tip"}]})"));
   EXPECT_THAT(source.categories, ElementsAre("z", "a", "z"));
   EXPECT_THAT(toolsOf(source),
@@ -152,6 +163,22 @@ TEST_F(ToolCatalogue, IsTakenAsItSays) {
   EXPECT_EQ(HostTtServer::getInstance().lookupTooltip("t"), "tool tip");
   EXPECT_EQ(HostTtServer::getInstance().lookupTooltip("v"), "view tip");
 }
+
+#ifndef QV_SANITIZED
+TEST_F(ToolCatalogue, ThatDoesNotFitIntoMemoryIsRefused) {
+  std::string const text(64 << 20, 'x');
+  std::filesystem::path const file = write("catalogue.json", R"({"views": [{"name": ")" + text);
+  EXPECT_EXIT(
+      {
+        rlimit limit = {};
+        limit.rlim_cur = limit.rlim_max = 256 << 20;
+        setrlimit(RLIMIT_AS, &limit);
+        std::fputs(refusal(file).c_str(), stderr);
+        std::exit(EXIT_SUCCESS);
+      },
+      testing::ExitedWithCode(EXIT_SUCCESS), "^cannot read .*json\": out of memory$");
+}
+#endif
 
 TEST_F(ToolCatalogue, SampleIsWithoutFault) {
   EXPECT_NO_THROW(readToolCatalogue(std::filesystem::path(RESOURCE_DIR) / "sampleCatalogue.json"));

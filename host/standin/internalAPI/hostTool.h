@@ -28,8 +28,7 @@ public:
   std::string getInfoText3() const override;
   std::string getName() const override;
 
-  bool isInternal() const { return info_.internal; }
-  std::string const& getCategory() const { return info_.category; }
+  HostToolInfo const& getInfo() const { return info_; }
 
 private:
   ~HostTool() override;

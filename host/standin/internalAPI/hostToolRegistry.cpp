@@ -6,6 +6,18 @@
 
 namespace Qv {
 
+namespace {
+
+std::uint32_t hashOf(std::string const& name) {
+  return std::uint32_t(std::hash<std::string>()(name));
+}
+
+std::string const& nameOf(RCShdPtr<PiTool const> const& tool) {
+  return static_cast<HostTool const&>(*tool).getInfo().name;
+}
+
+} // namespace
+
 PiToolRegistry& PiToolRegistry::getInstance() { return HostToolRegistry::getInstance(); }
 
 HostToolRegistry& HostToolRegistry::getInstance() {
@@ -18,27 +30,49 @@ void HostToolRegistry::addCategory(std::string const& name) {
   categories_.push_back(name);
 }
 
-void HostToolRegistry::addTool(HostToolInfo const& info) {
+void HostToolRegistry::addTool(RCShdPtr<HostTool const> const& tool) {
+  HostToolInfo const& info = tool->getInfo();
   HostPath::requireComponent(info.name, "tool name");
   HostPath::requireComponent(info.category, "category name");
-  RCShdPtr<PiTool const> const tool(new HostTool(info));
   tools_.push_back(tool);
   toolsByCategory_[info.category].push_back(tool);
-  if (toolsByName_.emplace(info.name, tool).second && info.superTool)
-    superTools_.insert(info.name);
+
+  if (2 * names_ >= slots_.size())
+    for (Slot const& slot : std::exchange(slots_, std::vector<Slot>(2 * slots_.size())))
+      if (slot.tool != 0)
+        slotOf(slot.hash, nullptr) = slot;
+  std::uint32_t const hash = hashOf(info.name);
+  if (Slot& slot = slotOf(hash, &info.name); slot.tool == 0) {
+    slot = {hash, std::uint32_t(tools_.size())};
+    ++names_;
+    if (info.superTool)
+      superTools_.insert(info.name);
+  }
 }
 
 void HostToolRegistry::clear() {
   categories_.clear();
   tools_.clear();
   toolsByCategory_.clear();
-  toolsByName_.clear();
+  slots_ = std::vector<Slot>(16);
+  names_ = 0;
   superTools_.clear();
 }
 
-RCShdPtr<PiTool const> HostToolRegistry::find(std::string const& name) const {
-  auto const found = toolsByName_.find(name);
-  return found == toolsByName_.end() ? RCShdPtr<PiTool const>() : found->second;
+HostToolRegistry::Slot& HostToolRegistry::slotOf(std::uint32_t hash, std::string const* name) {
+  auto const isOf = [&](Slot const& slot) {
+    return name && slot.hash == hash && nameOf(tools_[slot.tool - 1]) == *name;
+  };
+  std::size_t const mask = slots_.size() - 1;
+  std::size_t place = hash & mask;
+  while (slots_[place].tool != 0 && !isOf(slots_[place]))
+    place = (place + 1) & mask;
+  return slots_[place];
+}
+
+RCShdPtr<PiTool const> HostToolRegistry::find(std::string const& name) {
+  Slot const& slot = slotOf(hashOf(name), &name);
+  return slot.tool == 0 ? RCShdPtr<PiTool const>() : tools_[slot.tool - 1];
 }
 
 RCShdPtr<PiTool const> HostToolRegistry::findTool(std::string const& name, bool flag) {

@@ -89,7 +89,7 @@ public:
   explicit IsCategory(LiString const& category) : category_(category) {}
 
   bool holds(ToolPtr const& tool) const override {
-    return hostTool(tool).getCategory() == category_;
+    return hostTool(tool).getInfo().category == category_;
   }
   std::string const* getIndexKey() const override { return &category_; }
 
@@ -99,7 +99,7 @@ private:
 
 class IsInternal final : public PrdTerm<ToolPtr> {
 public:
-  bool holds(ToolPtr const& tool) const override { return hostTool(tool).isInternal(); }
+  bool holds(ToolPtr const& tool) const override { return hostTool(tool).getInfo().internal; }
 };
 
 class IsActive final : public PrdTerm<ToolPtr> {

@@ -3,6 +3,7 @@
 #include "ttServer.h"
 
 #include <unordered_map>
+#include <utility>
 
 namespace Qv {
 
@@ -11,8 +12,10 @@ class QV_EXPORT HostTtServer final : public TtServer {
 public:
   static HostTtServer& getInstance();
 
-  /// Replaces an earlier text.
-  void setTooltip(std::string const& key, std::string const& text) { tooltips_[key] = text; }
+  /// Keeps an earlier text.
+  void addTooltip(std::string key, std::string text) {
+    tooltips_.try_emplace(std::move(key), std::move(text));
+  }
   void clear() { tooltips_.clear(); }
 
   std::string lookupTooltip(std::string const& key) override;
