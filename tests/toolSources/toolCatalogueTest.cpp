@@ -55,7 +55,7 @@ Refused const Faults[] = {
      "duplicate key"},
 
     {"CategoryOfWrongType", R"({"categories": ["a", 1]})", "/categories/1", "found number"},
-    {"CategoryWithSlash", R"({"categories": ["a/b"]})", "/categories/0", "\"a/b\" holds"},
+    {"CategoryWithSlash", R"({"categories": ["a/b"]})", "/categories/0", "\"a/b\" contains"},
     {"CategoryNotListed",
      R"({"categories": ["a"], "tools": [{"name": "t", "category": "a"},
                                         {"name": "t", "category": "b"}]})",
@@ -79,7 +79,7 @@ Refused const Faults[] = {
     {"TooltipOfWrongType", R"({"tools": [{"name": "t", "category": "c", "tooltip": true}]})",
      "/tools/0/tooltip", "found boolean"},
 
-    {"ViewWithSlash", R"({"views": [{"name": "v/w"}]})", "/views/0/name", "holds"},
+    {"ViewWithSlash", R"({"views": [{"name": "v/w"}]})", "/views/0/name", "contains"},
     {"ViewRepeated", R"({"views": [{"name": "v"}, {"name": "w"}, {"name": "v"}]})", "/views/2/name",
      "duplicate view \"v\""},
     {"LabelOfWrongType", R"({"views": [{"name": "v", "label": null}]})", "/views/0/label",
