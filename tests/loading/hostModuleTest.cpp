@@ -192,7 +192,7 @@ TEST_F(LoadedModule, staysWhenAnotherIsRefusedWithTheReason) {
            {"/nowhere/x.qvmodule",
             "cannot load the module \"/nowhere/x.qvmodule\": cannot open shared object file"},
            {text, ": file too short"},
-           {copy, "registers a package \"pluginBrowserQvmodule\", which exists already"},
+           {copy, "registers a duplicate package \"pluginBrowserQvmodule\""},
            {EMPTYMODULE_FILE, "registers no package"}}) {
     expectRefusal(file, reason);
     EXPECT_EQ(HostBrRegistry::getInstance().getServers().size(), 2U);

@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// Thrown when the host rejects a request, which then has changed nothing.
+/// Thrown when the host rejects a request.
 class QV_EXPORT HostError : public ExBase {
 public:
   using ExBase::ExBase;

@@ -26,7 +26,7 @@ boost::dll::shared_library loadLibrary(std::filesystem::path const& file) {
   if (!error)
     return library;
   char const* const text = dlerror();
-  std::string reason = text ? text : "the loader gives no reason";
+  std::string reason = text ? text : "unknown loader error";
   // The loader's text starts with the path.
   std::string const prefix = absolute.string() + ": ";
   if (reason.starts_with(prefix))
@@ -58,8 +58,8 @@ HostModule::HostModule(std::filesystem::path const& file) {
     throw HostError("the module \"" + file.string() + "\" registers no package");
   for (InPackageInit const* const package : own)
     if (!names.insert(package->getName()).second)
-      throw HostError("the module \"" + file.string() + "\" registers a package \"" +
-                      package->getName() + "\", which exists already");
+      throw HostError("the module \"" + file.string() + "\" registers a duplicate package \"" +
+                      package->getName() + "\"");
 
   try {
     for (InPackageInit* const package : own)
