@@ -38,7 +38,9 @@ std::string BrServer::getPathInvalidChars() const { return Separator; }
 bool BrServer::isObservable() const { return false; }
 
 LiString BrServer::getParentPath(LiString const& path) const {
-  std::size_t const end = path.rfind(HostPath::Separator);
+  // A trailing separator adds no component.
+  std::size_t const end =
+      path.rfind(HostPath::Separator, path.find_last_not_of(HostPath::Separator));
   return end == std::string::npos ? LiString() : LiString(path.substr(0, end));
 }
 
