@@ -17,5 +17,6 @@ void addDragCommand(Program& program);
 void addStartupCommand(Program& program);
 void addPackagesCommand(Program& program);
 void addPluginsCommand(Program& program);
+void addCheckCommand(Program& program);
 
 } // namespace Qv

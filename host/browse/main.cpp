@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
     addStartupCommand(program);
     addPackagesCommand(program);
     addPluginsCommand(program);
+    addCheckCommand(program);
     return program.run(argc, argv);
   } catch (std::bad_alloc const&) {
     printProblem("out of memory");

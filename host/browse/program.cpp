@@ -54,6 +54,11 @@ ExitStatus Program::run(int argc, char const* const* argv) {
 
 ExitStatus Program::runCommand() {
   Output output(Terminal::ofStandardOutput(), json_, !noPager_);
+  if (sessionless_) {
+    ExitStatus const status = sessionless_(output);
+    output.finish();
+    return status;
+  }
   sessionOptions_.scan.progress = [&output](std::string const& text) { output.setProgress(text); };
   Session const session(sessionOptions_);
   bool partial = false;

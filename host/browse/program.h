@@ -41,6 +41,8 @@ public:
   }
   /// Chooses what runs when the command line names no command.
   void setDefault(Command command) { command_ = std::move(command); }
+  /// Has `run` run in place of a command.
+  void runWithoutSession(std::function<ExitStatus(Output&)> run) { sessionless_ = std::move(run); }
   /// How the session will be opened. A command may bind options to it.
   Session::Options& getSessionOptions() { return sessionOptions_; }
 
@@ -54,6 +56,7 @@ private:
   bool json_ = false;
   bool noPager_ = false;
   Command command_;
+  std::function<ExitStatus(Output&)> sessionless_;
 };
 
 } // namespace Qv

@@ -1,5 +1,5 @@
 #include "iterator.h"
-#include "allocations.h"
+#include "noLeaks.h"
 #include "fakeEngine.h"
 #include "thrown.h"
 

@@ -1,4 +1,4 @@
-#include "allocations.h"
+#include "noLeaks.h"
 #include "rcShdPtr.h"
 
 namespace Qv {

@@ -1,5 +1,5 @@
 #include "rcShdPtr.h"
-#include "allocations.h"
+#include "noLeaks.h"
 #include "thrown.h"
 
 #include <sstream>

@@ -1,5 +1,5 @@
 #include "rcStrongPtr.h"
-#include "allocations.h"
+#include "noLeaks.h"
 #include "thrown.h"
 
 namespace Qv {

@@ -1,4 +1,4 @@
-#include "allocations.h"
+#include "noLeaks.h"
 #include "iteratorSTL.imp.h"
 
 #include <atomic>

@@ -121,7 +121,7 @@ TEST_F(QvBrowse, explainsItself) {
   std::string const overview = result(run("--help"));
   for (std::string const command :
        {"tree", "ls", "show", "schemes", "search", "startup", "packages", "plugins", "actions",
-        "run-action", "drag", "detail"}) {
+        "run-action", "drag", "detail", "check"}) {
     EXPECT_THAT(overview, HasSubstr("\n  " + command + " "));
     EXPECT_THAT(result(run(command + " --help")),
                 testing::AllOf(HasSubstr("Usage: qvbrowse " + command + " "), HasSubstr("--json")));

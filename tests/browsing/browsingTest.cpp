@@ -1,4 +1,4 @@
-#include "allocations.h"
+#include "noLeaks.h"
 #include "hostBrRegistry.h"
 #include "hostError.h"
 #include "hostToolRegistry.h"

@@ -2,7 +2,7 @@
 
 #include "pbrInstances.h"
 
-#include "allocations.h"
+#include "noLeaks.h"
 #include "assertions.h"
 #include "hostBrRegistry.h"
 #include "hostImage.h"

@@ -1,4 +1,4 @@
-#include "allocations.h"
+#include "noLeaks.h"
 #include "hostResources.h"
 #include "refusal.h"
 #include "temporaryDirectory.h"

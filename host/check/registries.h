@@ -6,6 +6,7 @@
 #include "hostDndRegistry.h"
 
 #include <map>
+#include <string>
 
 namespace Qv {
 

@@ -2,9 +2,9 @@
 
 // Linking this replaces operator new and delete in the program and in all of its libraries.
 
-#include <gtest/gtest.h>
-
 #include <new>
+#include <stdexcept>
+#include <string>
 
 namespace Qv {
 
@@ -25,8 +25,9 @@ public:
 
 /// Runs `f` with its first, second, third ... allocation failing, until a run does not reach the
 /// failure; runs `check` after each failed run. Each failed run must throw std::bad_alloc, and no
-/// run may leak. Stops at the first run that breaks this.
+/// run may leak.
 /// @returns the number of allocations that failed.
+/// @throws std::logic_error after the first run that breaks this.
 template <class F, class Check = void (*)()>
 int forEachFailingAllocation(
     F f, Check check = [] {}) {
@@ -46,34 +47,14 @@ int forEachFailingAllocation(
     if (thrown)
       check();
     long const leaked = liveAllocations() - before;
+    std::string const failure = "allocation " + std::to_string(n) + " failed";
     if (thrown != reached)
-      ADD_FAILURE() << "allocation " << n << " failed without throwing std::bad_alloc";
-    else if (leaked != 0)
-      ADD_FAILURE() << leaked << " allocations leaked when allocation " << n << " failed";
-    else if (reached)
-      continue;
-    return n - 1;
+      throw std::logic_error(failure + " without throwing std::bad_alloc");
+    if (leaked != 0)
+      throw std::logic_error(std::to_string(leaked) + " allocations leaked when " + failure);
+    if (!reached)
+      return n - 1;
   }
 }
-
-/// A test that must not leak. The destructor of a derived class must free what its
-/// constructor allocates.
-class NoLeaks : public testing::Test {
-protected:
-  NoLeaks() {
-    // A thread's first trace allocates what the thread then keeps.
-    { SCOPED_TRACE(""); }
-    before_ = liveAllocations();
-  }
-  ~NoLeaks() override {
-    // Recording a failure allocates too.
-    if (!HasFailure()) {
-      EXPECT_EQ(liveAllocations() - before_, 0) << "allocations leaked";
-    }
-  }
-
-private:
-  long before_ = 0;
-};
 
 } // namespace Qv

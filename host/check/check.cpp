@@ -1,0 +1,141 @@
+#include "check.h"
+
+#include "allocations.h"
+#include "hostBrRegistry.h"
+#include "hostError.h"
+#include "hostJournal.h"
+#include "registries.h"
+#include "typeName.h"
+
+#include <algorithm>
+#include <climits>
+#include <cxxabi.h>
+
+namespace Qv {
+
+namespace {
+
+constexpr std::size_t MaxItems = 200;
+constexpr long long UnansweredNumber = -7777;
+
+/// Runs `use` with call `index` of the host failing. @returns whether there was such a call.
+bool failCall(std::function<std::string()> const& use, std::size_t index) {
+  HostJournal& journal = HostJournal::getInstance();
+  journal.start();
+  journal.failAt(index);
+  std::string thrown = "nothing";
+  try {
+    use();
+  } catch (HostError const& error) {
+    thrown = error.what();
+  } catch (...) {
+    thrown = describeException();
+  }
+  bool const reached = journal.getEntries().size() > index;
+  if (reached) {
+    std::string const failure = journal.getEntries()[index].operation + ": injected failure";
+    require(thrown == failure, "call {} fails ({}), and {} comes out", index + 1, failure, thrown);
+  }
+  journal.start();
+  journal.stop();
+  return reached;
+}
+
+} // namespace
+
+std::string describeException() {
+  try {
+    throw;
+  } catch (Fault const& fault) {
+    return fault.what();
+  } catch (std::exception const& error) {
+    return fmt::format("throws {}: {}", typeName(typeid(error)), error.what());
+  } catch (...) {
+    std::type_info const* const type = abi::__cxa_current_exception_type();
+    return "throws what is not an exception: " + (type ? typeName(*type) : "of another language");
+  }
+}
+
+Item itemAt(BrServer& server, LiString const& path) {
+  LiString message("untouched");
+  RCShdPtr<BrNode> const node = server.getNode(path, message);
+  require(node && node->getBrowsable(), "getNode returns no item");
+  require(message == "untouched", "getNode writes the message");
+  return node->getBrowsable();
+}
+
+Items nextSequence(BrChildrenQuery& query) {
+  Items items;
+  // Each step leaves a copy behind, and so takes an engine of its own.
+  for (Iterator<Item> next = query.getNextChildSequence();
+       !next.atEnd() && items.size() < MaxItems;)
+    items.push_back((next++).item());
+  return items;
+}
+
+std::string read(BrBrowsable& item) {
+  std::string result = item.getSchemeName() + ", " + item.getPath();
+  for (unsigned int const id :
+       {BrBrowsable::NAME, BrBrowsable::BROWSABLE_TYPE, BrBrowsable::ROOT_NAME, BrBrowsable::OWNER,
+        BrBrowsable::LMTIME, BrBrowsable::CREATION_TIME, BrBrowsable::BROWSABLE_ROLE,
+        BrBrowsable::THUMBNAIL, 0U, 0xFFFFU, unsigned(INT_MAX), unsigned(INT_MIN)}) {
+    LiString text(Unanswered);
+    long long number = UnansweredNumber;
+    item.get(int(id), &text);
+    item.get(int(id), &number);
+    result +=
+        ", " + (number == UnansweredNumber ? Unanswered : text) + ", " + item.getTooltip(int(id));
+    result += item.getImage(int(id), {64, 64}) ? ", image" : "";
+  }
+  return result;
+}
+
+Items findItems() {
+  Items items;
+  for (OPtr<BrServer> const& server : HostBrRegistry::getInstance().getServers())
+    items.push_back(itemAt(*server, server->getRootPath("")));
+  for (std::size_t next = 0; next < items.size(); ++next) {
+    // The item must outlive its query.
+    Item const item = items[next];
+    Items const children = nextSequence(*item->getChildren(AllChildren));
+    std::size_t const room = std::min(MaxItems - items.size(), children.size());
+    items.insert(items.end(), children.begin(), children.begin() + std::ptrdiff_t(room));
+  }
+  return items;
+}
+
+std::string forEachItem(std::function<void(Item const&)> const& f) {
+  Items const items = findItems();
+  for (Item const& item : items) {
+    lookAt(fmt::format("{} \"{}\"", item->getSchemeName(), item->getPath()));
+    f(item);
+  }
+  lookAt("");
+  return fmt::format("{}{} items", items.size() < MaxItems ? "" : "the first ", items.size());
+}
+
+std::string sweepFailures(std::function<std::string()> const& use) {
+  // What is made once and kept is made here.
+  std::string const expected = use();
+  failCall(use, std::size_t(-1));
+  auto const before = registered();
+  long const live = liveAllocations();
+  failCall(use, std::size_t(-1));
+  if (liveAllocations() != live)
+    throw Skipped("something is lost without a failure, too");
+
+  auto const check = [&] {
+    require(registered() == before, "the registries do not hold what they held before");
+    require(use() == expected, "the next run does not find what the first one found");
+  };
+  std::size_t calls = 0;
+  for (; failCall(use, calls); ++calls) {
+    check();
+    require(liveAllocations() == live, "call {} failed; allocations lost: {}", calls + 1,
+            liveAllocations() - live);
+  }
+  return fmt::format("{} calls and {} allocations failed", calls,
+                     forEachFailingAllocation(use, check));
+}
+
+} // namespace Qv

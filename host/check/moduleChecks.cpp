@@ -1,0 +1,183 @@
+#include "allocations.h"
+#include "brDetailView.h"
+#include "check.h"
+#include "hostJournal.h"
+#include "hostModule.h"
+#include "hostPackageManager.h"
+#include "registries.h"
+#include "typeName.h"
+
+#include <algorithm>
+#include <array>
+#include <boost/core/demangle.hpp>
+#include <boost/dll/runtime_symbol_info.hpp>
+#include <boost/dll/shared_library.hpp>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <fmt/ranges.h>
+#include <fstream>
+#include <link.h>
+#include <set>
+
+namespace fs = std::filesystem;
+
+namespace Qv {
+
+namespace {
+
+std::string checkImports() {
+  fs::path const host = boost::dll::symbol_location(HostJournal::getInstance).parent_path();
+  setenv("LD_LIBRARY_PATH", host.c_str(), 1);
+  setenv("QV_MODULE", moduleFile().c_str(), 1);
+  // The loader itself names all that it misses, and runs nothing of the file.
+  std::unique_ptr<FILE, decltype(&pclose)> const loader(popen("ldd -r \"$QV_MODULE\" 2>&1", "r"),
+                                                        &pclose);
+  constexpr std::string_view Undefined = "undefined symbol: ";
+  std::set<std::string> missing;
+  for (std::array<char, 8192> line; loader && std::fgets(line.data(), line.size(), loader.get());) {
+    std::string_view text = line.data();
+    if (std::size_t const library = text.find(" => not found"); library != text.npos) {
+      missing.insert("the library " + std::string(text.substr(1, library - 1)));
+    } else if (text.starts_with(Undefined)) {
+      text.remove_prefix(Undefined.size());
+      std::string const name(text.substr(0, text.find_first_of("\t,")));
+      // A sanitizer's are in the program.
+      if (!dlsym(RTLD_DEFAULT, name.c_str()))
+        missing.insert(boost::core::demangle(name.c_str()));
+    }
+  }
+  require(missing.empty(), "nothing provides {}", fmt::join(missing, ", "));
+  bool const loaded = dlopen(moduleFile().c_str(), RTLD_NOW);
+  require(loaded, "{}", loaded ? "" : dlerror());
+  return "all of them are there";
+}
+
+std::string checkPackages() {
+  HostPackageManager& manager = HostPackageManager::getInstance();
+  std::set<std::string> names;
+  for (InPackageInit const* const package : manager.getPackages())
+    names.insert(package->getName());
+  std::size_t const hosts = manager.getPackages().size();
+  boost::dll::shared_library const library(moduleFile(), boost::dll::load_mode::rtld_now);
+  manager.throwLoadFailure();
+  std::vector<std::string> problems;
+  for (std::size_t index = hosts; index < manager.getPackages().size(); ++index) {
+    InPackageInit const& package = *manager.getPackages()[index];
+    if (!names.insert(package.getName()).second)
+      problems.push_back(fmt::format("there is a package \"{}\" already", package.getName()));
+    for (std::type_info const* const needed : package.getDependencies())
+      if (!manager.find(*needed))
+        problems.push_back("no loaded library provides the package " + typeName(*needed));
+  }
+  require(problems.empty(), "{}", fmt::join(problems, "; "));
+  require(names.size() > hosts, "it registers no package");
+  return fmt::format("{} registered", names.size() - hosts);
+}
+
+std::string start() {
+  HostModule const started(moduleFile());
+  std::size_t objects = 0;
+  for (auto const& [call, count] : registered())
+    objects += count;
+  return fmt::format("{} objects registered", objects);
+}
+
+std::string checkStart() {
+  // The class of an exception may be the module's.
+  static boost::dll::shared_library const kept(moduleFile(), boost::dll::load_mode::rtld_now);
+  return start();
+}
+
+/// Compares an object's table with the host's of the class `T`: what is inherited must be in its
+/// own place. What overrides cannot be told from an address.
+template <class T> int compareTable(T const& object) {
+  auto const* const host = static_cast<void* const*>(
+      dlsym(RTLD_DEFAULT, (std::string("_ZTV") + typeid(T).name()).c_str()));
+  Dl_info library;
+  void* symbol = nullptr;
+  require(host && dladdr1(host, &library, &symbol, RTLD_DL_SYMENT), "the host has no table of {}",
+          typeName(typeid(T)));
+  lookAt(typeName(typeid(object)));
+  auto const* const table = *reinterpret_cast<void* const* const*>(&object);
+  // The offset to the top and the type information come first.
+  std::size_t const size = static_cast<ElfW(Sym) const*>(symbol)->st_size / sizeof(void*) - 2;
+  for (std::size_t word = 0; word < size; ++word) {
+    // An abstract class leaves its destructor out, and a sanitizer some room behind.
+    if (!host[word + 2])
+      continue;
+    Dl_info function;
+    require(dladdr(table[word], &function) != 0, "word {} of its table is not a function", word);
+    require(table[word] == host[word + 2] || function.dli_fbase != library.dli_fbase,
+            "word {} of its table is {}, which {} has in another place", word,
+            function.dli_sname ? boost::core::demangle(function.dli_sname) : "a hidden function",
+            typeName(typeid(T)));
+  }
+  return 1;
+}
+
+std::string checkSlots() {
+  int count = 0;
+  for (Item const& item : findItems()) {
+    count += compareTable<BrBrowsable>(*item) + compareTable<BrServer>(*item->getServer());
+    count += compareTable<BrChildrenQuery>(*item->getChildren(AllChildren));
+  }
+  for (auto const& [type, handler] : HostDndRegistry::getInstance().getEntries())
+    count += compareTable<BrDndHandler>(*handler);
+  for (auto const& [role, view] : HostBrRegistry::getInstance().getViews())
+    if (auto const* const detail = dynamic_cast<BrDetailView const*>(view.get()))
+      count += compareTable<BrDetailView>(*detail);
+  for (auto const& [action, state] : HostActRegistry::getInstance().getEntries())
+    if (auto const* const typed = dynamic_cast<BrowserAction const*>(action.get()))
+      count += compareTable<BrowserAction>(*typed);
+  return fmt::format("the tables of {} objects", count);
+}
+
+/// What the process holds.
+struct Holdings {
+  long allocations = liveAllocations();
+  std::ptrdiff_t threads =
+      std::distance(fs::directory_iterator("/proc/self/task"), fs::directory_iterator());
+  std::ptrdiff_t mappings = countLines("/proc/self/maps");
+
+  static std::ptrdiff_t countLines(char const* name) {
+    std::ifstream stream(name);
+    return std::count(std::istreambuf_iterator<char>(stream), {}, '\n');
+  }
+};
+
+std::string checkRepeats() {
+  constexpr int Times = 100;
+  start();
+  Holdings const before;
+  for (int time = 0; time < Times; ++time)
+    start();
+  Holdings const after;
+  require(!dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_NOLOAD),
+          "it stays in memory; g++ needs -fno-gnu-unique");
+  // The allocator maps on its own account, but not at each start.
+  require(after.allocations == before.allocations && after.threads == before.threads &&
+              after.mappings - before.mappings < Times,
+          "{} starts leave {} allocations, {} threads and {} mappings", Times,
+          after.allocations - before.allocations, after.threads - before.threads,
+          after.mappings - before.mappings);
+  return fmt::format("{} starts", Times);
+}
+
+} // namespace
+
+std::vector<Check> moduleChecks() {
+  constexpr char const* Packages = "Packages (`libQVbase`; `getType` in each of the nine)";
+  return {
+      {"file.imports", "A library provides each name that the file imports.", "Symbols",
+       checkImports, false},
+      {"file.packages", "It registers packages, and those that it needs are there.", Packages,
+       checkPackages, false},
+      {"start.initialises", "It is loaded and initialised.", Packages, checkStart, false},
+      {"start.slots", "What its classes inherit has the host's places in their tables.", "Slots",
+       checkSlots},
+      {"start.failures", "A failure ends the start, loses nothing, and is not met again.",
+       "What may be thrown", [] { return sweepFailures(start); }, false},
+      {"start.repeats", "When it is unloaded, nothing stays.", "Lifetimes", checkRepeats, false}};
+}
+
+} // namespace Qv
