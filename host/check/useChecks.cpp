@@ -32,7 +32,8 @@ std::string drag(Item const& item) {
 }
 
 void probeHandlers(Item const& item) {
-  for (auto const& [type, handler] : HostDndRegistry::getInstance().getEntries()) {
+  for (HostDndRegistry::Entry const& entry : HostDndRegistry::getInstance().getEntries()) {
+    RCShdPtr<BrDndHandler> const& handler = entry.handler;
     mayRefuse([&] { handler->willPopulateSelection(item); });
     mayRefuse([&] { handler->willCut(item); });
     mayRefuse([&] { handler->willCopy(item); });
