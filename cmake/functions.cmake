@@ -38,6 +38,21 @@ function(qv_host_library name)
   qv_install_library(QV${name})
 endfunction()
 
+# qv_install_program(<program> <component>): installs a program and its man page, compressed as man
+# pages are kept.
+function(qv_install_program program component)
+  file(RELATIVE_PATH libraries
+    ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_PREFIX}/${QV_LIBRARY_DIR})
+  set_target_properties(${program} PROPERTIES
+    INSTALL_RPATH $ORIGIN/${libraries} BUILD_WITH_INSTALL_RPATH ON)
+  install(TARGETS ${program} RUNTIME COMPONENT ${component})
+  set(page ${CMAKE_CURRENT_BINARY_DIR}/${program}.1)
+  configure_file(${program}.1.in ${page} @ONLY)
+  add_custom_command(OUTPUT ${page}.gz COMMAND gzip -9nkf ${page} DEPENDS ${page})
+  add_custom_target(${program}Man ALL DEPENDS ${page}.gz)
+  install(FILES ${page}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+endfunction()
+
 # qv_test_program(<name> [LABELS label...] [LIBRARIES library...] [FILES target...]): a program of
 # all sources in the directory of that name, whose tests are registered with CTest. The macro
 # <TARGET>_FILE is the path of the file of each target in FILES.

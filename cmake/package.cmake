@@ -37,6 +37,22 @@ set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION
 "headers and CMake package of qvbrowse
 For building a host or a module: the declarations of the host, the counted
 pointers and iterators, and the targets of find_package(QvPluginBrowser).")
+if(QV_WINDOW)
+  # Apart, since Qt is large.
+  list(APPEND CPACK_COMPONENTS_ALL window)
+  set(CPACK_DEBIAN_WINDOW_PACKAGE_NAME qvwindow)
+  set(CPACK_DEBIAN_WINDOW_PACKAGE_SECTION graphics)
+  set(CPACK_DEBIAN_WINDOW_PACKAGE_SHLIBDEPS ON)
+  # It finds the host's libraries in the package that it depends on.
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+  set(CPACK_DEBIAN_WINDOW_DESCRIPTION
+"window to browse plug-in tools and views
+The asset browser of qvbrowse as a window: trees, lists, detail pages, menus and
+drags of the schemes that a module adds.")
+endif()
 include(CPack)
 cpack_add_component(runtime)
+if(QV_WINDOW)
+  cpack_add_component(window DEPENDS runtime)
+endif()
 cpack_add_component(development DEPENDS runtime)
