@@ -60,6 +60,7 @@ ExitStatus Program::runCommand() {
     return status;
   }
   sessionOptions_.scan.progress = [&output](std::string const& text) { output.setProgress(text); };
+  sessionOptions_.scan.notice = [&output](std::string const& text) { output.printProblem(text); };
   Session const session(sessionOptions_);
   bool partial = false;
   for (ToolSource::Plugin const& plugin : session.getPlugins()) {

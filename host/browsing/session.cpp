@@ -1,6 +1,5 @@
 #include "session.h"
 
-#include "frei0rTools.h"
 #include "hostResources.h"
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
@@ -38,11 +37,8 @@ fs::path resourceDirectory() { return programDirectory().parent_path() / "share"
 } // namespace
 
 std::vector<ToolSource> Session::read(Options const& options) {
-  std::vector<std::string> names = options.sources;
-  if (names.empty())
-    names = {hasFrei0rTools(frei0rDirectory) ? "frei0r"
-                                             : resourceDirectory() / "sampleCatalogue.json"};
-  std::vector<ToolSource> sources = readToolSources(names, options.scan);
+  std::vector<ToolSource> sources =
+      readToolSources(options.sources, options.scan, resourceDirectory() / "sampleCatalogue.json");
   if (std::all_of(sources.begin(), sources.end(),
                   [](ToolSource const& source) { return source.views.empty(); }))
     sources.push_back(standardViews());

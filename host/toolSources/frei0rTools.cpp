@@ -1,10 +1,10 @@
 #include "frei0rTools.h"
 
-#include "hostError.h"
-
 #include <algorithm>
+#include <cstdlib>
 #include <fmt/format.h>
 #include <set>
+#include <sstream>
 
 namespace Qv {
 
@@ -12,27 +12,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Absolute paths.
-std::vector<fs::path> findPlugins(fs::path const& directory) {
-  std::vector<fs::path> files;
-  try {
-    for (fs::directory_entry const& entry :
-         fs::directory_iterator(fs::absolute(directory).lexically_normal()))
-      if (entry.path().extension() == ".so")
-        files.push_back(entry.path());
-  } catch (fs::filesystem_error const& error) {
-    throw HostError(fmt::format("cannot read the plug-in directory \"{}\": {}", directory.string(),
-                                error.code().message()));
-  }
-  if (files.empty())
-    throw HostError(fmt::format("the plug-in directory \"{}\" holds no plug-in file (*.so)",
-                                directory.string()));
-  // Of one directory, the texts have the order of the paths, and are faster to compare.
-  std::sort(files.begin(), files.end(), [](fs::path const& left, fs::path const& right) {
-    return left.native() < right.native();
-  });
-  return files;
-}
+/// How deep the folders of vendors may be: two levels, as in the interface's examples.
+constexpr int VendorDepth = 2;
+
+fs::path wholePath(fs::path const& path) { return fs::absolute(path).lexically_normal(); }
 
 /// A line for each parameter.
 std::string describe(std::vector<PluginParameter> const& parameters) {
@@ -46,43 +29,122 @@ std::string describe(std::vector<PluginParameter> const& parameters) {
 
 } // namespace
 
-bool hasFrei0rTools(fs::path const& directory) {
-  try {
-    findPlugins(directory);
-    return true;
-  } catch (HostError const&) {
-    return false;
+/// The plug-in files below some places.
+struct Frei0rTools::Search {
+  void addPlace(fs::path const& directory) {
+    std::size_t const before = plugins.size();
+    std::size_t const failed = failures.size();
+    addDirectory(directory, directory, 0);
+    if (plugins.size() == before && failures.size() == failed)
+      empty.push_back(fmt::format("\"{}\": no plug-in file (*.so)", directory.string()));
   }
+
+  void addDirectory(fs::path const& directory, fs::path const& place, int depth) {
+    std::error_code error;
+    // The same one may have another name, or be below itself.
+    if (fs::path const canonical = fs::weakly_canonical(directory, error);
+        !visited.insert(error ? directory : canonical).second)
+      return;
+    std::set<std::string> files;
+    std::set<std::string> folders;
+    fs::directory_iterator entries(directory, error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
+      std::error_code unknown;
+      if (entries->path().extension() == ".so" && entries->is_regular_file(unknown))
+        files.insert(entries->path());
+      else if (depth < VendorDepth && entries->is_directory(unknown))
+        folders.insert(entries->path());
+    }
+    if (error) {
+      bool const normal = mayBeMissing && error == std::errc::no_such_file_or_directory;
+      (normal ? empty : failures)
+          .push_back(fmt::format("\"{}\": {}", directory.string(), error.message()));
+    }
+    for (std::string const& file : files)
+      plugins.push_back({.file = wholePath(file), .place = wholePath(place)});
+    for (std::string const& folder : folders)
+      addDirectory(folder, place, depth + 1);
+  }
+
+  bool mayBeMissing = false;
+  std::vector<ToolSource::Plugin> plugins;
+  std::set<fs::path> visited;
+  /// The directories that cannot be searched or hold nothing, and why.
+  std::vector<std::string> failures;
+  std::vector<std::string> empty;
+};
+
+ToolSource Frei0rTools::read() {
+  Search search;
+  if (char const* const path = std::getenv("FREI0R_PATH")) {
+    std::istringstream directories(path);
+    for (std::string directory; std::getline(directories, directory, ':');)
+      if (!directory.empty())
+        search.addPlace(directory);
+  } else {
+    search.mayBeMissing = true;
+    if (char const* const home = std::getenv("HOME"); home && *home == '/')
+      search.addPlace(fs::path(home) / ".frei0r-1" / "lib");
+    search.addPlace("/usr/local/lib/frei0r-1");
+    search.addPlace("/usr/lib/frei0r-1");
+  }
+  return read(search);
 }
 
-ToolSource readFrei0rTools(fs::path const& directory, PluginCache& cache,
-                           ScanOptions const& options) {
+ToolSource Frei0rTools::read(fs::path const& directory) {
+  Search search;
+  search.addPlace(directory);
+  return read(search);
+}
+
+ToolSource Frei0rTools::read(Search const& search) {
+  if (search.plugins.empty()) {
+    std::vector<std::string> reasons = search.failures;
+    reasons.insert(reasons.end(), search.empty.begin(), search.empty.end());
+    if (reasons.empty())
+      reasons = {"FREI0R_PATH names no directory"};
+    throw NoPluginsError(fmt::format("no frei0r plug-in found: {}", fmt::join(reasons, "; ")));
+  }
+  for (std::string const& failure : search.failures)
+    options_.notice("cannot search for plug-ins in " + failure);
+
+  std::vector<fs::path> files;
+  for (ToolSource::Plugin const& plugin : search.plugins)
+    files.push_back(plugin.file);
+  auto const scan = [&](std::vector<fs::path> const& unread, TakeResult const& take) {
+    scanPlugins(unread, options_, take);
+  };
+  std::vector<PluginCache::Entry> const entries = cache_.read(files, options_.retry, scan);
+  auto entry = entries.begin();
   ToolSource source;
-  source.origin = directory;
-  auto const scan = [&](std::vector<fs::path> const& files) { return scanPlugins(files, options); };
   std::set<std::string> categories;
-  fs::path const place = fs::absolute(directory).lexically_normal();
-  for (auto& [file, result, cached] : cache.read(findPlugins(directory), options.retry, scan)) {
-    bool const isTool = result.failure.empty();
-    source.plugins.push_back({.file = file,
-                              .place = place,
-                              .failure = result.failure,
-                              .hiddenBy = {},
-                              .cached = cached,
-                              .tool = isTool ? file.stem().string() : "",
-                              .category = result.category,
-                              .version = result.version,
-                              .parameters = result.parameters});
-    if (!isTool)
+  for (ToolSource::Plugin plugin : search.plugins) {
+    auto const& [result, cached] = *entry++;
+    // An earlier source has it.
+    if (!files_.insert(plugin.file).second)
       continue;
-    categories.insert(result.category);
-    std::string const origin = fmt::format("{}{}version {}", result.author,
-                                           result.author.empty() ? "" : ", ", result.version);
-    HostToolInfo info = {.name = file.stem(),
-                         .category = result.category,
-                         .infoTexts = {result.name, result.explanation, origin}};
-    source.tools.push_back(
-        {RCShdPtr<HostTool const>(new HostTool(std::move(info))), describe(result.parameters)});
+    plugin.cached = cached;
+    plugin.version = result.version;
+    plugin.parameters = result.parameters;
+    std::string const name = plugin.file.stem();
+    if (auto const earlier = tools_.find(name); earlier != tools_.end()) {
+      plugin.hiddenBy = earlier->second;
+    } else if (!result.failure.empty()) {
+      plugin.failure = result.failure;
+    } else {
+      plugin.tool = name;
+      plugin.category = result.category;
+      tools_[name] = plugin.file;
+      categories.insert(result.category);
+      std::string const origin = fmt::format("{}{}version {}", result.author,
+                                             result.author.empty() ? "" : ", ", result.version);
+      HostToolInfo info = {.name = name,
+                           .category = result.category,
+                           .infoTexts = {result.name, result.explanation, origin}};
+      source.tools.push_back(
+          {RCShdPtr<HostTool const>(new HostTool(std::move(info))), describe(result.parameters)});
+    }
+    source.plugins.push_back(std::move(plugin));
   }
   for (char const* const category : PluginCategories)
     if (categories.contains(category))

@@ -1,13 +1,15 @@
 #include "pluginCache.h"
 
-#include "hostError.h"
-#include "readFile.h"
+#include "descriptor.h"
 
+#include <cerrno>
 #include <cstdlib>
+#include <fcntl.h>
 #include <fmt/format.h>
-#include <fstream>
+#include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
+#include <system_error>
+#include <utility>
 
 namespace Qv {
 
@@ -15,16 +17,49 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What the file starts with. The number goes up with every change of the file or of what is kept
-/// of a plug-in.
-constexpr std::string_view Format = "qvbrowse plug-ins 3";
+/// What the file starts with. The number changes with the format, and with what a result means.
+constexpr std::string_view Format = "qvbrowse plug-ins 4";
 
-/// What tells whether a plug-in file is still the same: its size and when it was modified. To be
-/// taken before the plug-in is read. A file that is missing has a stamp as well.
+/// Tells whether a plug-in file is still the same. To be taken before the plug-in is read. A
+/// missing file has a stamp as well.
 std::string stampOf(fs::path const& plugin) {
   struct stat info = {};
   stat(plugin.c_str(), &info);
-  return fmt::format("{} {}.{:09}", info.st_size, info.st_mtim.tv_sec, info.st_mtim.tv_nsec);
+  return fmt::format("{} {} {} {}.{:09} {}.{:09}", info.st_dev, info.st_ino, info.st_size,
+                     info.st_mtim.tv_sec, info.st_mtim.tv_nsec, info.st_ctim.tv_sec,
+                     info.st_ctim.tv_nsec);
+}
+
+void check(bool success) {
+  if (!success)
+    throw std::system_error(errno, std::generic_category());
+}
+
+/// Keeps other programs from the files of a directory for as long as it is open.
+Descriptor lock(fs::path const& directory) {
+  int const number = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  flock(number, LOCK_EX);
+  return Descriptor(number);
+}
+
+/// Opens a file without waiting for anybody. @returns its size.
+std::size_t openFile(Descriptor& file, fs::path const& path, int flags) {
+  file.reset(open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC, 0600));
+  struct stat info = {};
+  check(file.get() >= 0 && fstat(file.get(), &info) == 0);
+  if (!S_ISREG(info.st_mode))
+    throw std::runtime_error("not a regular file");
+  return std::size_t(info.st_size);
+}
+
+/// Adds a text to a file of this size, whole or not at all.
+void write(Descriptor const& file, std::size_t size, std::string const& text) {
+  ssize_t const written = ::write(file.get(), text.data(), text.size());
+  if (written == ssize_t(text.size()))
+    return;
+  int const reason = written < 0 ? errno : ENOSPC;
+  check(ftruncate(file.get(), off_t(size)) == 0);
+  throw std::system_error(reason, std::generic_category());
 }
 
 } // namespace
@@ -39,81 +74,120 @@ fs::path PluginCache::getUserFile() {
   return directory.empty() ? fs::path() : directory / "qvbrowse" / "plugins";
 }
 
-PluginCache::PluginCache(fs::path file) : file_(std::move(file)) {
+void PluginCache::use(std::function<void()> const& action) {
+  if (file_.empty())
+    return;
   try {
-    load();
-  } catch (HostError const&) {
-    // None, then.
+    action();
+  } catch (std::exception const& error) {
+    auto const* const failed = dynamic_cast<std::system_error const*>(&error);
+    notice_(fmt::format("cannot use the plug-in cache \"{}\": {}", file_.string(),
+                        failed ? failed->code().message() : error.what()));
+    file_.clear();
   }
 }
 
-void PluginCache::load() {
-  std::string const text = readFile(file_);
-  std::string_view rest = text;
-  if (takeText(rest) != Format)
-    return;
-  while (!rest.empty()) {
-    std::optional<std::string_view> const plugin = takeText(rest);
-    std::optional<std::string_view> const stamp = takeText(rest);
-    std::optional<ScanResult> result = ScanResult::takeFrom(rest);
+bool PluginCache::parse(std::string_view bytes, Records& records) {
+  if (bytes.empty())
+    return true;
+  if (takeText(bytes) != Format)
+    return false;
+  while (!bytes.empty()) {
+    std::optional<std::string_view> const plugin = takeText(bytes);
+    std::optional<std::string_view> const stamp = takeText(bytes);
+    std::optional<ScanResult> result = ScanResult::takeFrom(bytes);
     if (!result)
-      return kept_.clear();
-    kept_[std::string(*plugin)] = {std::string(*stamp), std::move(*result), true};
+      return false;
+    records[std::string(*plugin)] = {std::string(*stamp), {std::move(*result), true}};
   }
+  return true;
+}
+
+bool PluginCache::load(Records& records) const {
+  std::error_code error;
+  if (fs::status(file_, error).type() == fs::file_type::not_found)
+    return true;
+  Descriptor file;
+  std::string text(openFile(file, file_, O_RDONLY), '\0');
+  ssize_t const size = ::read(file.get(), text.data(), text.size());
+  check(size >= 0);
+  return parse(std::string_view(text).substr(0, std::size_t(size)), records);
+}
+
+void PluginCache::appendRecord(std::string& text, std::string const& plugin, Kept const& kept) {
+  appendText(text, plugin);
+  appendText(text, kept.stamp);
+  kept.entry.result.appendTo(text);
+}
+
+void PluginCache::append(std::string const& plugin) {
+  fs::create_directories(file_.parent_path());
+  Descriptor const held = lock(file_.parent_path());
+  Descriptor file;
+  std::size_t const size = openFile(file, file_, O_WRONLY | O_APPEND | O_CREAT);
+  std::string text;
+  if (size == 0)
+    appendText(text, Format);
+  appendRecord(text, plugin, kept_.at(plugin));
+  write(file, size, text);
+}
+
+void PluginCache::compact() {
+  fs::create_directories(file_.parent_path());
+  Descriptor const held = lock(file_.parent_path());
+  Records records;
+  load(records);
+  for (auto const& [plugin, kept] : kept_)
+    if (!kept.entry.cached)
+      records[plugin] = kept;
+  std::string text;
+  appendText(text, Format);
+  std::error_code gone;
+  for (auto const& [plugin, kept] : records)
+    if (!kept.entry.result.passing && fs::exists(plugin, gone))
+      appendRecord(text, plugin, kept);
+  fs::path const next = file_.string() + ".new";
+  Descriptor file;
+  openFile(file, next, O_WRONLY | O_CREAT | O_TRUNC);
+  write(file, 0, text);
+  fs::rename(next, file_);
 }
 
 std::vector<PluginCache::Entry> PluginCache::read(std::vector<fs::path> const& plugins, bool retry,
                                                   Scan const& scan) {
+  bool whole = true;
+  if (!std::exchange(loaded_, true))
+    use([&] {
+      Descriptor const held = lock(file_.parent_path());
+      whole = load(kept_);
+    });
   std::vector<fs::path> unread;
   std::map<std::string, std::string> stamps;
   for (fs::path const& plugin : plugins) {
     std::string stamp = stampOf(plugin);
     auto const found = kept_.find(plugin);
     bool const known = found != kept_.end() && found->second.stamp == stamp;
-    if (known && !(retry && found->second.cached && !found->second.result.failure.empty()))
+    if (known &&
+        !(retry && found->second.entry.cached && !found->second.entry.result.failure.empty()))
       continue;
     unread.push_back(plugin);
     stamps[plugin] = std::move(stamp);
   }
   if (!unread.empty()) {
-    for (auto& [plugin, result] : scan(unread))
-      kept_[plugin] = {std::move(stamps[plugin]), std::move(result), false};
-    save();
+    if (!whole)
+      use([&] { compact(); });
+    scan(unread, [&](std::string const& plugin, ScanResult result) {
+      bool const passing = result.passing;
+      kept_[plugin] = {stamps.at(plugin), {std::move(result), false}};
+      if (!passing)
+        use([&] { append(plugin); });
+    });
+    use([&] { compact(); });
   }
   std::vector<Entry> entries;
-  for (fs::path const& plugin : plugins) {
-    Kept const& kept = kept_.at(plugin);
-    entries.push_back({plugin, kept.result, kept.cached});
-  }
+  for (fs::path const& plugin : plugins)
+    entries.push_back(kept_.at(plugin).entry);
   return entries;
-}
-
-void PluginCache::save() const {
-  if (file_.empty())
-    return;
-  std::error_code error;
-  fs::create_directories(file_.parent_path(), error);
-  std::string temporary = file_.string() + "-XXXXXX";
-  int const descriptor = mkstemp(temporary.data());
-  if (descriptor < 0)
-    return;
-  close(descriptor);
-  std::string text;
-  appendText(text, Format);
-  for (auto const& [plugin, kept] : kept_) {
-    if (!fs::exists(plugin, error))
-      continue;
-    appendText(text, plugin);
-    appendText(text, kept.stamp);
-    kept.result.appendTo(text);
-  }
-  std::ofstream stream(temporary, std::ios::binary);
-  stream << text;
-  stream.close();
-  if (stream)
-    fs::rename(temporary, file_, error);
-  if (!stream || error)
-    fs::remove(temporary, error);
 }
 
 } // namespace Qv

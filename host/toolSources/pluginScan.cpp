@@ -12,6 +12,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
+#include <set>
 #include <spawn.h>
 #include <sys/wait.h>
 
@@ -93,39 +94,44 @@ private:
   bool ended_ = false;
 };
 
-/// Moves the results that are complete out of the replies.
-void takeResults(std::string& replies, ScanResults& results) {
+/// Takes the first result out of the replies. @returns nothing when none is complete.
+std::optional<std::pair<std::string, ScanResult>> takeResult(std::string& replies) {
   std::string_view rest = replies;
-  for (std::string_view next = rest;;) {
-    std::optional<std::string_view> const file = takeText(next);
-    if (file && file->empty())
-      throw HostError(fmt::format("cannot read plug-ins: {}", takeText(next).value_or("")));
-    std::optional<ScanResult> result = ScanResult::takeFrom(next);
-    if (!file || !result)
-      break;
-    results[std::string(*file)] = std::move(*result);
-    rest = next;
-  }
+  std::string file(takeText(rest).value_or(""));
+  if (file.empty() && !replies.empty())
+    throw HostError(fmt::format("cannot read plug-ins: {}", takeText(rest).value_or("")));
+  std::optional<ScanResult> result = ScanResult::takeFrom(rest);
+  if (!result)
+    return std::nullopt;
   replies.erase(0, replies.size() - rest.size());
+  return std::pair(std::move(file), std::move(*result));
 }
 
 } // namespace
 
-ScanResults scanPlugins(std::vector<fs::path> const& files, ScanOptions const& options) {
+void scanPlugins(std::vector<fs::path> const& files, ScanOptions const& options,
+                 TakeResult const& take) {
   std::vector<std::string> const gaps = findIsolationGaps();
   if (options.requireIsolation && !gaps.empty())
     throw HostError(fmt::format("plug-ins cannot be isolated completely on this machine: {}",
                                 fmt::join(gaps, ", ")));
   Reader reader(files, options);
-  ScanResults results;
+  std::set<std::string> waiting(files.begin(), files.end());
+  // They are started in this order, so this one has been waited for the longest.
+  auto first = files.begin();
   std::string replies;
   do {
-    takeResults(replies, results);
-    options.progress(fmt::format("reading plug-ins, {} of {}", results.size(), files.size()));
+    while (auto result = takeResult(replies))
+      if (waiting.erase(result->first) > 0)
+        take(result->first, std::move(result->second));
+    while (first != files.end() && !waiting.contains(*first))
+      ++first;
+    if (first != files.end())
+      options.progress(fmt::format("reading plug-ins, {} of {}: {}", files.size() - waiting.size(),
+                                   files.size(), first->filename().string()));
   } while (reader.receive(replies));
-  if (results.size() < files.size())
+  if (!waiting.empty())
     throw HostError("cannot read plug-ins: the plug-in reader ended before it was done");
-  return results;
 }
 
 } // namespace Qv

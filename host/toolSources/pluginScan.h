@@ -5,7 +5,6 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <vector>
 
 namespace Qv {
@@ -34,16 +33,17 @@ struct ScanOptions {
   void setTimeout(std::chrono::seconds seconds) { timeout = processorTime = seconds; }
 };
 
-/// What came of plug-in files, by their absolute paths.
-using ScanResults = std::map<std::string, ScanResult>;
+/// Takes the result of reading a plug-in file, given by its absolute path.
+using TakeResult = std::function<void(std::string const& file, ScanResult result)>;
 
-/// Has qvreader read plug-in files, each in a process that is closed in: whatever a plug-in does
-/// there, it reaches neither this program nor the other plug-ins nor the user's files. One that
-/// crashes, exits, does not reply in time or does what it must not has a failure that says so. May
-/// be called on any thread.
+/// Has qvreader read plug-in files, each in an isolated process: whatever a plug-in does there, it
+/// reaches neither this program nor the other plug-ins nor the user's files. One that crashes,
+/// exits, does not reply in time or does what it must not has a failure that says so. May be called
+/// on any thread.
 /// @param files are absolute paths.
+/// @param take is called with each result as soon as it is known.
 /// @throws HostError when they cannot be read, or must not as there are gaps.
-ScanResults scanPlugins(std::vector<std::filesystem::path> const& files,
-                        ScanOptions const& options);
+void scanPlugins(std::vector<std::filesystem::path> const& files, ScanOptions const& options,
+                 TakeResult const& take);
 
 } // namespace Qv

@@ -22,6 +22,7 @@ template <class Parameter> auto textsOfParameter(Parameter& parameter) {
 void ScanResult::appendTo(std::string& bytes) const {
   for (std::string const* const text : textsOf(*this))
     appendText(bytes, *text);
+  appendText(bytes, passing ? "passing" : "");
   appendText(bytes, std::to_string(parameters.size()));
   for (PluginParameter const& parameter : parameters)
     for (std::string const* const text : textsOfParameter(parameter))
@@ -38,6 +39,9 @@ std::optional<ScanResult> ScanResult::takeFrom(std::string_view& bytes) {
   };
   for (std::string* const text : textsOf(result))
     take(text);
+  std::string passing;
+  take(&passing);
+  result.passing = !passing.empty();
   std::string count;
   take(&count);
   int parameters = -1;
@@ -50,7 +54,7 @@ std::optional<ScanResult> ScanResult::takeFrom(std::string_view& bytes) {
       take(text);
   bool const known = std::find(PluginCategories.begin(), PluginCategories.end(), result.category) !=
                      PluginCategories.end();
-  if (!whole || (result.failure.empty() && !known))
+  if (!whole || (result.failure.empty() ? !known : !result.category.empty()))
     return std::nullopt;
   return result;
 }

@@ -27,6 +27,8 @@ struct PluginParameter {
 struct ScanResult {
   /// Why there is no tool; empty when there is one.
   std::string failure = {};
+  /// Whether another attempt may have another result, as after a time-out.
+  bool passing = false;
   /// One of PluginCategories, when there is a tool.
   std::string category = {};
   std::string name = {};

@@ -34,19 +34,19 @@ struct ToolSource {
     /// An absolute path.
     std::filesystem::path file;
     /// The plug-in directory that it was found in, itself or in a vendor's folder.
-    std::filesystem::path place;
+    std::filesystem::path place = {};
     /// Why it could not be read; empty when it was, or when it is hidden.
-    std::string failure;
+    std::string failure = {};
     /// The plug-in file of the same name in an earlier place that is taken instead; mostly empty.
-    std::filesystem::path hiddenBy;
+    std::filesystem::path hiddenBy = {};
     /// Whether the result comes from an earlier run.
-    bool cached;
+    bool cached = false;
     /// The registry name and the category of its tool; empty when there is none.
-    std::string tool;
-    std::string category;
+    std::string tool = {};
+    std::string category = {};
     /// As the plug-in gives them; empty when it could not be read.
-    std::string version;
-    std::vector<PluginParameter> parameters;
+    std::string version = {};
+    std::vector<PluginParameter> parameters = {};
   };
 
   /// In the order in which they are listed; the same name may come again.

@@ -577,7 +577,7 @@ TEST_F(QvBrowse, showsProgressOnATerminalOnly) {
   install("doze");
   std::string const arguments = "--tools frei0r:plugins ls tools Source";
   std::string const shown = result(runOnTerminal("-u NO_COLOR", arguments));
-  EXPECT_THAT(shown, HasSubstr("\rreading plug-ins, 0 of 1 ...\x1b[K"));
+  EXPECT_THAT(shown, HasSubstr("\rreading plug-ins, 0 of 1: doze.so ...\x1b[K"));
   EXPECT_THAT(
       shown, testing::EndsWith("\r\x1b[K\x1b[1mType\x1b[0m  \x1b[1mTool\x1b[0m\r\nTool  doze\r\n"));
   EXPECT_EQ(result(runOnTerminal("-u NO_COLOR", arguments)).find("reading plug-ins"),

@@ -9,6 +9,7 @@
 #include <arpa/inet.h>
 #include <csignal>
 #include <fcntl.h>
+#include <fmt/format.h>
 #include <poll.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -25,10 +26,12 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
+using namespace std::string_literals;
+
 /// Plug-ins that act by their names, in a directory beside a home that is not for them.
-class Frei0rTools : public testing::Test, protected TemporaryDirectory {
+class Frei0rPlugins : public testing::Test, protected TemporaryDirectory {
 protected:
-  Frei0rTools() {
+  Frei0rPlugins() {
     fs::create_directory(plugins_);
     fs::create_directory(directory_ / "home");
     write("home/secret", "");
@@ -36,12 +39,14 @@ protected:
   }
 
   void install(std::string const& name) const {
-    fs::copy_file(ACTORPLUGIN_FILE, plugins_ / (name + ".so"));
+    fs::path const file = plugins_ / (name + ".so");
+    fs::create_directories(file.parent_path());
+    fs::copy_file(ACTORPLUGIN_FILE, file);
   }
   /// Reads the directory as a run of its own.
   ToolSource read(ScanOptions const& options = {}) const {
-    PluginCache cache(directory_ / "cache");
-    return readFrei0rTools(plugins_, cache, options);
+    PluginCache cache(directory_ / "cache", {});
+    return Frei0rTools(cache, options).read(plugins_);
   }
 
   fs::path const plugins_ = directory_ / "plugins";
@@ -49,7 +54,7 @@ protected:
   fs::path const life_ = plugins_ / "life";
 };
 
-TEST_F(Frei0rTools, AreListedByFileAndByType) {
+TEST_F(Frei0rPlugins, AreListedByFileAndByType) {
   install("mute");
   install("c");
   install("b.x");
@@ -63,11 +68,15 @@ TEST_F(Frei0rTools, AreListedByFileAndByType) {
   EXPECT_THAT(source.categories, ElementsAre("Source", "Mixer2"));
 }
 
-TEST_F(Frei0rTools, SayWhatThePluginSays) {
+TEST_F(Frei0rPlugins, SayWhatThePluginSays) {
   install("clouds");
   install("mute");
   // From the plug-ins, and from the cache.
-  for (auto const& tools : {read().tools, read().tools}) {
+  for (int run = 0; run < 2; ++run) {
+    ToolSource const source = read();
+    EXPECT_EQ(source.plugins[0].version, "2.10");
+    EXPECT_EQ(source.plugins[0].parameters.at(2).name, "Sky");
+    auto const& tools = source.tools;
     ASSERT_EQ(tools.size(), 2U);
     EXPECT_THAT(tools[0].tool->getInfo().infoTexts,
                 ElementsAre("Clouds/Sky", "Paints clouds.", "A. Painter, version 2.10"));
@@ -82,17 +91,51 @@ TEST_F(Frei0rTools, SayWhatThePluginSays) {
   }
 }
 
-TEST_F(Frei0rTools, AreNeededInTheDirectory) {
-  auto const reading = [](fs::path const& directory) {
-    PluginCache cache("");
-    return refusalOf([&] { readFrei0rTools(directory, cache); });
+TEST_F(Frei0rPlugins, AreFoundWhereTheInterfaceSays) {
+  install("../a/clouds");
+  write("a/mute.so", "not a plug-in");
+  install("../b/mute");
+  install("../b/vendor/deep/clouds");
+  install("../b/vendor/deep/deeper/out");
+  install("../home/.frei0r-1/lib/clouds");
+  fs::create_directory(directory_ / "b/folder.so");
+  fs::create_symlink("nowhere", directory_ / "b/dangling.so");
+  fs::create_symlink(".", directory_ / "b/self");
+  mkfifo((directory_ / "b/fifo.so").c_str(), 0600);
+
+  auto const readPlaces = [&](std::string const& places) {
+    setenv("FREI0R_PATH", places.c_str(), 1);
+    std::string found;
+    PluginCache cache("", {});
+    ScanOptions const options = {
+        .notice = [&](std::string const& notice) { found += notice + "\n"; }};
+    for (auto const& plugin : Frei0rTools(cache, options).read().plugins)
+      found += fmt::format("{} {} {} {} {} {}\n", plugin.file.string(), plugin.place.string(),
+                           plugin.tool, plugin.category, plugin.failure, plugin.hiddenBy.string());
+    for (std::size_t at = 0; (at = found.find(directory_)) != std::string::npos;)
+      found.erase(at, directory_.native().size() + 1);
+    return found;
   };
-  EXPECT_THAT(reading(plugins_), AllOf(HasSubstr(plugins_.string()), HasSubstr("no plug-in")));
-  EXPECT_THAT(reading(directory_ / "missing"),
-              AllOf(HasSubstr("missing\""), HasSubstr("No such file")));
+  std::string const root = directory_;
+  EXPECT_EQ(readPlaces(root + "/a::" + root + "/missing:" + root + "/b:" + root + "/a"),
+            "cannot search for plug-ins in \"missing\": No such file or directory\n"
+            "a/clouds.so a clouds Source  \n"
+            "a/mute.so a   file too short \n"
+            "b/mute.so b mute Mixer2  \n"
+            "b/vendor/deep/clouds.so b    a/clouds.so\n");
+  for (auto const& [places, reason] : {std::pair(root + "/missing", "missing\": No such file"),
+                                       {root + "/b/folder.so", "folder.so\": no plug-in file"},
+                                       {"", "FREI0R_PATH"}})
+    EXPECT_THAT(refusalOf([&, &places = places] { readPlaces(places); }), HasSubstr(reason));
+
+  unsetenv("FREI0R_PATH");
+  setenv("HOME", (root + "/home").c_str(), 1);
+  PluginCache cache("", {});
+  EXPECT_EQ(Frei0rTools(cache, {}).read().plugins.at(0).file,
+            directory_ / "home/.frei0r-1/lib/clouds.so");
 }
 
-TEST_F(Frei0rTools, NeedTheirReader) {
+TEST_F(Frei0rPlugins, NeedTheirReader) {
   install("clouds");
   EXPECT_THAT(refusalOf([&] { read({.reader = directory_ / "missing"}); }),
               AllOf(HasSubstr("missing\""), HasSubstr("No such file")));
@@ -128,7 +171,7 @@ private:
   int socket_;
 };
 
-TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
+TEST_F(Frei0rPlugins, CostOnlyThemselvesWhateverTheyDo) {
   sockaddr_in internet = {};
   internet.sin_family = AF_INET;
   internet.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
@@ -141,7 +184,10 @@ TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
   Listener const socket(SOCK_STREAM, reinterpret_cast<sockaddr*>(&local), sizeof local);
   write("plugins/port", std::to_string(tcp.getPort()));
   write("plugins/caller", std::to_string(getpid()));
-  std::string const truncated = write("plugins/text.so", "no plug-in");
+  write("plugins/text.so", "not a plug-in");
+  write("plugins/foreign.so", "\x7f"
+                              "ELF\2\1\1"s +
+                                  std::string(9, '\0') + "\3\0\xb7\0"s);
 
   constexpr char Refused[] = "Operation not permitted";
   constexpr char Forbidden[] = "made a forbidden system call";
@@ -153,6 +199,9 @@ TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
       {"boasting", "claims to have 1001 parameters"},
       {"half", "no function f0r_get_plugin_info"},
       {"text", "file too short"},
+      {"foreign", "is built for aarch64, not x86-64"},
+      {"tinted", "unknown color model 3"},
+      {"modern", "needs version 2 of the plug-in interface, newer than 1"},
       {"\xe9", "Paints clouds."},
 
       {"abort", "crashed with SIGABRT (Aborted)"},
@@ -192,7 +241,7 @@ TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
 #endif
       {"thread", "done"}};
   for (auto const& [name, outcome] : expected)
-    if (name != "text" && name != "half")
+    if (name != "text" && name != "half" && name != "foreign")
       install(name);
   fs::copy_file(HALFPLUGIN_FILE, plugins_ / "half.so");
 
@@ -213,13 +262,20 @@ TEST_F(Frei0rTools, CostOnlyThemselvesWhateverTheyDo) {
     EXPECT_FALSE(listener->wasReached());
 }
 
-TEST_F(Frei0rTools, ThatDoNotReplyInTimeAreLeftOut) {
+TEST_F(Frei0rPlugins, ThatDoNotReplyInTimeAreTriedAgain) {
   install("sleep");
-  ToolSource const source = read({.timeout = std::chrono::milliseconds(100)});
-  EXPECT_EQ(source.plugins.at(0).failure, "no reply within 0.1 s");
+  for (int run = 0; run < 2; ++run) {
+    std::string progress;
+    ToolSource const source =
+        read({.timeout = std::chrono::milliseconds(100),
+              .progress = [&](std::string const& text) { progress += text; }});
+    EXPECT_EQ(source.plugins.at(0).failure, "no reply within 0.1 s");
+    EXPECT_FALSE(source.plugins.at(0).cached);
+    EXPECT_THAT(progress, HasSubstr("0 of 1: sleep.so"));
+  }
 }
 
-TEST_F(Frei0rTools, EndWithWhoeverReadsThem) {
+TEST_F(Frei0rPlugins, EndWithWhoeverReadsThem) {
   install("sleep");
   pid_t const child = fork();
   if (child == 0) {
@@ -239,7 +295,7 @@ TEST_F(Frei0rTools, EndWithWhoeverReadsThem) {
   close(life);
 }
 
-TEST_F(Frei0rTools, LeaveNothingBehindWhereTheyCannotBeIsolated) {
+TEST_F(Frei0rPlugins, LeaveNothingBehindWhereTheyCannotBeIsolated) {
   EXPECT_THAT(findIsolationGaps(), testing::IsEmpty());
   install("daemon");
   pollfd lives = {open(life_.c_str(), O_RDONLY | O_NONBLOCK), POLLIN, 0};

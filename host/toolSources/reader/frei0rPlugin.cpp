@@ -1,7 +1,11 @@
 #include "frei0rPlugin.h"
 
 #include <algorithm>
+#include <cstring>
 #include <dlfcn.h>
+#include <elf.h>
+#include <endian.h>
+#include <fstream>
 #include <span>
 
 extern "C" {
@@ -29,6 +33,10 @@ constexpr Named ParameterTypes[] = {{F0R_PARAM_BOOL, "bool"},
                                     {F0R_PARAM_POSITION, "position"},
                                     {F0R_PARAM_STRING, "string"}};
 
+constexpr Named Processors[] = {{EM_386, "i386"},        {EM_ARM, "arm"},     {EM_X86_64, "x86-64"},
+                                {EM_AARCH64, "aarch64"}, {EM_RISCV, "riscv"}, {EM_PPC64, "ppc64"},
+                                {EM_S390, "s390"}};
+
 /// Null when the number is none of them.
 char const* nameOf(int number, std::span<Named const> all) {
   auto const found = std::find_if(all.begin(), all.end(),
@@ -45,10 +53,27 @@ std::string trimmed(char const* text) {
   return result;
 }
 
+/// The header of this program, from the linker.
+extern "C" Elf64_Ehdr const __ehdr_start __attribute__((visibility("hidden")));
+
+std::string processorOf(Elf64_Ehdr const& header) {
+  bool const swapped = header.e_ident[EI_DATA] == ELFDATA2MSB;
+  int const machine = swapped ? be16toh(header.e_machine) : le16toh(header.e_machine);
+  char const* const name = nameOf(machine, Processors);
+  return (name ? name : "processor " + std::to_string(machine)) +
+         (header.e_ident[EI_CLASS] == ELFCLASS32 ? ", 32 bits" : "");
+}
+
 void* load(char const* file) {
   if (void* const library = dlopen(file, RTLD_NOW | RTLD_LOCAL))
     return library;
   std::string reason = dlerror();
+  // Of a library for another processor, the loader says that there is none.
+  Elf64_Ehdr header = {};
+  std::ifstream(file, std::ios::binary).read(reinterpret_cast<char*>(&header), sizeof header);
+  if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0)
+    if (std::string const processor = processorOf(header); processor != processorOf(__ehdr_start))
+      throw PluginError("is built for " + processor + ", not " + processorOf(__ehdr_start));
   // The loader starts with the path that it was given.
   std::string const prefix = std::string(file) + ": ";
   if (reason.starts_with(prefix))

@@ -118,7 +118,11 @@ bool PluginProcess::receive(bool ended) {
 
 ScanResult PluginProcess::takeResult() {
   int const status = finish();
-  return result_ ? *result_ : failed(describeFailure(status));
+  if (result_)
+    return *result_;
+  ScanResult result = failed(describeFailure(status));
+  result.passing = !ended_ && reply_.size() <= LongestReply;
+  return result;
 }
 
 void PluginProcess::parseReply() {
