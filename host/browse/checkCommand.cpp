@@ -1,4 +1,5 @@
 #include "commands.h"
+#include "safeText.h"
 
 #include <cstring>
 #include <sstream>
@@ -84,8 +85,8 @@ ExitStatus checkModule(Options const& options, std::optional<fs::path> const& mo
     if (check["result"] != "fail")
       continue;
     problems += fmt::format("\n{}\n  expected: {}\n  happened: {}\n  see:      {}\n", name,
-                            check["expected"].get<std::string>(),
-                            check["happened"].get<std::string>(), check["see"].get<std::string>());
+                            check["expected"].get<std::string>(), escaped(check["happened"]),
+                            check["see"].get<std::string>());
     // A module that does not start cannot be asked for more.
     if (name.starts_with("file.") || name == "start.initialises")
       needed = name;

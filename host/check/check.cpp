@@ -52,7 +52,7 @@ std::string describeException() {
     return fmt::format("throws {}: {}", typeName(typeid(error)), error.what());
   } catch (...) {
     std::type_info const* const type = abi::__cxa_current_exception_type();
-    return "throws what is not an exception: " + (type ? typeName(*type) : "of another language");
+    return "throws a non-exception: " + (type ? typeName(*type) : "of another language");
   }
 }
 

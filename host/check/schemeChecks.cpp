@@ -67,18 +67,10 @@ void checkRoot(BrServer& server) {
 
 void checkPaths(BrServer& server) {
   constexpr int Paths = 1000;
-  std::vector<std::string> pieces = {"/",
-                                     "//",
-                                     ".",
-                                     "..",
-                                     " ",
-                                     "\n",
-                                     "%n%s",
-                                     "no such",
-                                     "\xff\xfe",
-                                     "/",
-                                     std::string(1, '\0'),
-                                     std::string(5000, 'x')};
+  std::vector<std::string> pieces = {"/",  "//",   ".",        "..",     " ",
+                                     "\n", "%n%s", "\xff\xfe", "no such"};
+  pieces.emplace_back(1, '\0');
+  pieces.emplace_back(5000, 'x');
   for (Item const& item : findItems())
     pieces.push_back(item->getPath());
   // The same paths every time and everywhere.

@@ -3,7 +3,6 @@
 #include "hostJournal.h"
 #include "hostPackageManager.h"
 #include "hostResources.h"
-#include "inInit.imp.h"
 #include "refusal.h"
 #include "registries.h"
 #include "temporaryDirectory.h"
@@ -11,13 +10,7 @@
 #include <boost/dll/shared_library.hpp>
 #include <gmock/gmock.h>
 
-namespace QvInit {
-class QV_EXPORT nowhere {};
-} // namespace QvInit
-
 namespace Qv {
-
-template <> InInit<QvInit::nowhere>::InInit() : InPackageInit("nowhere") { registerPackage(); }
 
 /// What was asked of the host, in order.
 using Calls = std::vector<HostJournal::Entry>;
@@ -163,12 +156,14 @@ TEST_F(LoadedModule, staysWhenAnotherIsRefusedWithTheReason) {
     EXPECT_EQ(HostBrRegistry::getInstance().getServers().size(), 2U);
   }
   // What a package fails with ends the start of all.
-  expectRefusal(LOSTMODULE_FILE,
-                "package \"lost\" in \"" LOSTMODULE_FILE "\" depends on the package "
-                "Qv::InInit<QvInit::nowhere>, which no loaded library provides");
-  {
-    InInit<QvInit::nowhere> const found;
-    expectRefusal(LOSTMODULE_FILE, "throws a non-exception: Qv::Despair");
+  for (auto const& [name, reason] :
+       {std::pair("file.packages", "\" depends on the package "
+                                   "Qv::InInit<QvInit::nowhere>, which no loaded "
+                                   "library provides"),
+        std::pair("start.initialises", "throws a non-exception: int")}) {
+    std::filesystem::path const faulty = directory_ / (name + std::string(".qvmodule"));
+    std::filesystem::copy_file(FAULTYMODULE_FILE, faulty);
+    expectRefusal(faulty, reason);
   }
   EXPECT_EQ(registered(), registeredBy({}));
   EXPECT_EQ(HostPackageManager::getInstance().getPackages().size(), packages);
