@@ -210,6 +210,7 @@ void BrowserWindow::build() {
   onKey(Qt::ALT | Qt::Key_Up, [this] { goUp(); });
   onKey(Qt::CTRL | Qt::Key_L, [this] { path_->setFocus(), path_->selectAll(); });
   onKey(Qt::CTRL | Qt::Key_F, [this] { searchText_->setFocus(), searchText_->selectAll(); });
+  onKey(QKeySequence::Quit, [this] { close(); });
   onKey(Qt::CTRL | Qt::Key_W, [this] {
     if (workspace_->currentIndex() > 0)
       delete workspace_->currentWidget();
@@ -422,6 +423,7 @@ void BrowserWindow::select(RCShdPtr<BrBrowsable> const& item) {
     RCShdPtr<BrBrowsable> const shownItem = item ? item : container_;
     path_->setText(QString::fromStdString(shownItem->getPath()));
     detail_->show(shownItem);
+    setWindowTitle(shown(getAttribute(*shownItem, BrBrowsable::NAME)) + " - Asset Browser");
   });
 }
 
