@@ -83,6 +83,37 @@ def measure_times(cases):
     return times
 
 
+# A whole program
+
+
+def spend(*command):
+    """The processor time of a command, in seconds, and its largest resident size, in bytes."""
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL)
+    _, status, usage = os.wait4(process.pid, 0)
+    if status != 0:
+        sys.exit(f"bench: {' '.join(command)} failed")
+    return usage.ru_utime + usage.ru_stime, usage.ru_maxrss * 1024
+
+
+def measure_catalogue(tools=1_000_000):
+    """Lists one category of a catalogue, beside what only reads the file."""
+    with open("catalogue.json", "w") as file:
+        separator = '{"tools": ['
+        for number in range(tools):
+            file.write(f'{separator}\n{{"name": "tool{number:07}", "category": "Category{number % 100:02}",'
+                       f' "texts": ["Tool {number}", "Does its work.", "1.0"]}}')
+            separator = ","
+        file.write("]}\n")
+    commands = {"catalogue/qvbrowse": ("bin/qvbrowse", "--tools", file.name, "ls", "tools", "Category01"),
+                "catalogue/jq": ("jq", "length", file.name)}
+    spent = {case: [] for case in commands}
+    for _ in range(LONG_ROUNDS):
+        for case, command in commands.items():
+            spent[case].append(spend(*command))
+    return ({case: [time for time, _ in values] for case, values in spent.items()},
+            {case: max(memory for _, memory in values) for case, values in spent.items()})
+
+
 # Counts
 
 
@@ -152,9 +183,10 @@ def short(number):
 class Figures:
     """The placeholders of the template: {method case...}."""
 
-    def __init__(self, times, counts):
+    def __init__(self, times, counts, memory):
         self.times = times
         self.counts = counts
+        self.memory = memory
 
     def time(self, case):
         return short(statistics.median(self.times[case]))
@@ -164,6 +196,9 @@ class Figures:
         value = statistics.median(a / b for a, b in zip(self.times[case], self.times[peer]))
         text = f"{value:.2f}"
         return f"**{text}**" if limit and float(text) > float(limit) else text
+
+    def megabytes(self, case):
+        return short(self.memory[case] / 1e6)
 
     def instructions(self, case):
         return self.quantity("instructions", case)
@@ -233,8 +268,9 @@ def main():
         if sys.argv[1:]:
             sys.exit(not check(counts))
         times = measure_times(cases)
+        catalogue_times, memory = measure_catalogue()
     write_counts(counts)
-    write_document(Figures(times, counts))
+    write_document(Figures(times | catalogue_times, counts, memory))
     draw(times)
 
 

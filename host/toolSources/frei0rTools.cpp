@@ -31,17 +31,16 @@ std::string describe(std::vector<PluginParameter> const& parameters) {
 
 /// The plug-in files below some places.
 struct Frei0rTools::Search {
-  void addPlace(fs::path const& directory) {
-    std::size_t const before = plugins.size();
-    std::size_t const failed = failures.size();
-    addDirectory(directory, directory, 0);
-    if (plugins.size() == before && failures.size() == failed)
-      empty.push_back(fmt::format("\"{}\": no plug-in file (*.so)", directory.string()));
+  void addPlace(fs::path const& place) {
+    std::size_t const before = plugins.size() + problems.size();
+    addDirectory(place, place, 0);
+    if (plugins.size() + problems.size() == before)
+      problems.emplace_back(fmt::format("\"{}\": no plug-in file (*.so)", place.string()), false);
   }
 
   void addDirectory(fs::path const& directory, fs::path const& place, int depth) {
     std::error_code error;
-    // The same one may have another name, or be below itself.
+    // It may have another name, or be below itself.
     if (fs::path const canonical = fs::weakly_canonical(directory, error);
         !visited.insert(error ? directory : canonical).second)
       return;
@@ -55,11 +54,9 @@ struct Frei0rTools::Search {
       else if (depth < VendorDepth && entries->is_directory(unknown))
         folders.insert(entries->path());
     }
-    if (error) {
-      bool const normal = mayBeMissing && error == std::errc::no_such_file_or_directory;
-      (normal ? empty : failures)
-          .push_back(fmt::format("\"{}\": {}", directory.string(), error.message()));
-    }
+    if (error)
+      problems.emplace_back(fmt::format("\"{}\": {}", directory.string(), error.message()),
+                            !mayBeMissing || error != std::errc::no_such_file_or_directory);
     for (std::string const& file : files)
       plugins.push_back({.file = wholePath(file), .place = wholePath(place)});
     for (std::string const& folder : folders)
@@ -69,9 +66,9 @@ struct Frei0rTools::Search {
   bool mayBeMissing = false;
   std::vector<ToolSource::Plugin> plugins;
   std::set<fs::path> visited;
-  /// The directories that cannot be searched or hold nothing, and why.
-  std::vector<std::string> failures;
-  std::vector<std::string> empty;
+  /// Directories that cannot be searched or hold nothing, and why; and whether the user should know
+  /// even if there are plug-ins elsewhere.
+  std::vector<std::pair<std::string, bool>> problems;
 };
 
 ToolSource Frei0rTools::read() {
@@ -98,16 +95,15 @@ ToolSource Frei0rTools::read(fs::path const& directory) {
 }
 
 ToolSource Frei0rTools::read(Search const& search) {
-  if (search.plugins.empty()) {
-    std::vector<std::string> reasons = search.failures;
-    reasons.insert(reasons.end(), search.empty.begin(), search.empty.end());
-    if (reasons.empty())
-      reasons = {"FREI0R_PATH names no directory"};
-    throw NoPluginsError(fmt::format("no frei0r plug-in found: {}", fmt::join(reasons, "; ")));
+  std::string reasons;
+  for (auto const& [problem, notable] : search.problems) {
+    reasons += (reasons.empty() ? "" : "; ") + problem;
+    if (notable && !search.plugins.empty())
+      options_.notice("cannot search for plug-ins in " + problem);
   }
-  for (std::string const& failure : search.failures)
-    options_.notice("cannot search for plug-ins in " + failure);
-
+  if (search.plugins.empty())
+    throw NoPluginsError("no frei0r plug-in found: " +
+                         (reasons.empty() ? "FREI0R_PATH names no directory" : reasons));
   std::vector<fs::path> files;
   for (ToolSource::Plugin const& plugin : search.plugins)
     files.push_back(plugin.file);

@@ -37,6 +37,7 @@ void check(bool success) {
 
 /// Keeps other programs from the files of a directory for as long as it is open.
 Descriptor lock(fs::path const& directory) {
+  fs::create_directories(directory);
   int const number = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   flock(number, LOCK_EX);
   return Descriptor(number);
@@ -87,22 +88,6 @@ void PluginCache::use(std::function<void()> const& action) {
   }
 }
 
-bool PluginCache::parse(std::string_view bytes, Records& records) {
-  if (bytes.empty())
-    return true;
-  if (takeText(bytes) != Format)
-    return false;
-  while (!bytes.empty()) {
-    std::optional<std::string_view> const plugin = takeText(bytes);
-    std::optional<std::string_view> const stamp = takeText(bytes);
-    std::optional<ScanResult> result = ScanResult::takeFrom(bytes);
-    if (!result)
-      return false;
-    records[std::string(*plugin)] = {std::string(*stamp), {std::move(*result), true}};
-  }
-  return true;
-}
-
 bool PluginCache::load(Records& records) const {
   std::error_code error;
   if (fs::status(file_, error).type() == fs::file_type::not_found)
@@ -111,7 +96,20 @@ bool PluginCache::load(Records& records) const {
   std::string text(openFile(file, file_, O_RDONLY), '\0');
   ssize_t const size = ::read(file.get(), text.data(), text.size());
   check(size >= 0);
-  return parse(std::string_view(text).substr(0, std::size_t(size)), records);
+  std::string_view rest = std::string_view(text).substr(0, std::size_t(size));
+  if (rest.empty())
+    return true;
+  if (takeText(rest) != Format)
+    return false;
+  while (!rest.empty()) {
+    std::optional<std::string_view> const plugin = takeText(rest);
+    std::optional<std::string_view> const stamp = takeText(rest);
+    std::optional<ScanResult> result = ScanResult::takeFrom(rest);
+    if (!result)
+      return false;
+    records[std::string(*plugin)] = {std::string(*stamp), {std::move(*result), true}};
+  }
+  return true;
 }
 
 void PluginCache::appendRecord(std::string& text, std::string const& plugin, Kept const& kept) {
@@ -121,7 +119,6 @@ void PluginCache::appendRecord(std::string& text, std::string const& plugin, Kep
 }
 
 void PluginCache::append(std::string const& plugin) {
-  fs::create_directories(file_.parent_path());
   Descriptor const held = lock(file_.parent_path());
   Descriptor file;
   std::size_t const size = openFile(file, file_, O_WRONLY | O_APPEND | O_CREAT);
@@ -133,7 +130,6 @@ void PluginCache::append(std::string const& plugin) {
 }
 
 void PluginCache::compact() {
-  fs::create_directories(file_.parent_path());
   Descriptor const held = lock(file_.parent_path());
   Records records;
   load(records);

@@ -43,7 +43,6 @@ private:
   /// By absolute path.
   using Records = std::map<std::string, Kept>;
 
-  static bool parse(std::string_view bytes, Records& records);
   static void appendRecord(std::string& text, std::string const& plugin, Kept const& kept);
 
   /// Does something with the file; where that fails, this object does without it from now on.

@@ -36,9 +36,8 @@ public:
   /// @throws HostError when it cannot be started.
   Reader(std::vector<fs::path> const& files, ScanOptions const& options) {
     fs::path const program = options.reader.empty() ? installedReader() : options.reader;
-    std::vector<std::string> arguments = {
-        program, fmt::format("--processor-time={}", options.processorTime.count()),
-        fmt::format("--time={}", options.timeout.count())};
+    std::vector<std::string> arguments = {program, std::to_string(options.processorTime.count()),
+                                          std::to_string(options.timeout.count())};
     arguments.insert(arguments.end(), files.begin(), files.end());
     std::vector<std::string> environment;
     for (char const* const name : Environment)
@@ -83,9 +82,10 @@ public:
 
 private:
   static std::vector<char*> pointersTo(std::vector<std::string>& texts) {
-    std::vector<char*> pointers(texts.size() + 1, nullptr);
-    std::transform(texts.begin(), texts.end(), pointers.begin(),
-                   [](std::string& text) { return text.data(); });
+    std::vector<char*> pointers;
+    for (std::string& text : texts)
+      pointers.push_back(text.data());
+    pointers.push_back(nullptr);
     return pointers;
   }
 

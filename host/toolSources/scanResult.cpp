@@ -1,57 +1,37 @@
 #include "scanResult.h"
 
 #include <algorithm>
-#include <charconv>
+#include <cstdlib>
 
 namespace Qv {
 
-namespace {
-
-/// The texts of a result before its parameters, in the order in which they are written.
-template <class Result> auto textsOf(Result& result) {
-  return std::array{&result.failure,     &result.category, &result.name,
-                    &result.explanation, &result.author,   &result.version};
-}
-
-template <class Parameter> auto textsOfParameter(Parameter& parameter) {
-  return std::array{&parameter.name, &parameter.type, &parameter.explanation};
-}
-
-} // namespace
-
 void ScanResult::appendTo(std::string& bytes) const {
-  for (std::string const* const text : textsOf(*this))
-    appendText(bytes, *text);
-  appendText(bytes, passing ? "passing" : "");
-  appendText(bytes, std::to_string(parameters.size()));
+  for (std::string_view const text : std::initializer_list<std::string_view>{
+           failure, passing ? "passing" : "", category, name, explanation, author, version,
+           std::to_string(parameters.size())})
+    appendText(bytes, text);
   for (PluginParameter const& parameter : parameters)
-    for (std::string const* const text : textsOfParameter(parameter))
+    for (std::string const* const text : {&parameter.name, &parameter.type, &parameter.explanation})
       appendText(bytes, *text);
 }
 
 std::optional<ScanResult> ScanResult::takeFrom(std::string_view& bytes) {
-  ScanResult result;
   bool whole = true;
-  auto const take = [&](std::string* text) {
-    std::optional<std::string_view> const taken = takeText(bytes);
-    whole = whole && taken;
-    *text = taken.value_or("");
+  auto const take = [&] {
+    std::optional<std::string_view> const text = takeText(bytes);
+    whole = whole && text;
+    return std::string(text.value_or(""));
   };
-  for (std::string* const text : textsOf(result))
-    take(text);
-  std::string passing;
-  take(&passing);
-  result.passing = !passing.empty();
-  std::string count;
-  take(&count);
-  int parameters = -1;
-  std::from_chars(count.data(), count.data() + count.size(), parameters);
-  if (parameters < 0 || parameters > MostParameters)
-    return std::nullopt;
-  result.parameters.resize(std::size_t(parameters));
-  for (PluginParameter& parameter : result.parameters)
-    for (std::string* const text : textsOfParameter(parameter))
-      take(text);
+  ScanResult result = {.failure = take(),
+                       .passing = !take().empty(),
+                       .category = take(),
+                       .name = take(),
+                       .explanation = take(),
+                       .author = take(),
+                       .version = take()};
+  int const parameters = std::atoi(take().c_str());
+  for (int number = 0; number < std::min(parameters, MostParameters); ++number)
+    result.parameters.push_back({take(), take(), take()});
   bool const known = std::find(PluginCategories.begin(), PluginCategories.end(), result.category) !=
                      PluginCategories.end();
   if (!whole || (result.failure.empty() ? !known : !result.category.empty()))

@@ -10,6 +10,7 @@
 #include <memory>
 #include <sched.h>
 #include <seccomp.h>
+#include <sstream>
 #include <sys/ioctl.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
@@ -28,39 +29,26 @@ namespace {
 /// Stands in the prepared filter for the number of the process that it is applied to.
 constexpr std::uint32_t Self = 0x53454c46;
 
-/// Called often, and harmless whatever they are called with, as files are Landlock's part.
-constexpr int Allowed[] = {
+/// Harmless whatever the arguments, since files are left to Landlock.
+constexpr char Allowed[] =
     // Memory.
-    SCMP_SYS(brk), SCMP_SYS(madvise), SCMP_SYS(membarrier), SCMP_SYS(mmap), SCMP_SYS(mprotect),
-    SCMP_SYS(mremap), SCMP_SYS(munmap),
+    "brk madvise membarrier mmap mprotect mremap munmap "
     // Files.
-    SCMP_SYS(access), SCMP_SYS(close), SCMP_SYS(dup), SCMP_SYS(dup2), SCMP_SYS(dup3),
-    SCMP_SYS(faccessat), SCMP_SYS(faccessat2), SCMP_SYS(fadvise64), SCMP_SYS(fstat),
-    SCMP_SYS(fstatfs), SCMP_SYS(getcwd), SCMP_SYS(getdents64), SCMP_SYS(lseek), SCMP_SYS(lstat),
-    SCMP_SYS(newfstatat), SCMP_SYS(pread64), SCMP_SYS(preadv), SCMP_SYS(read), SCMP_SYS(readlink),
-    SCMP_SYS(readlinkat), SCMP_SYS(readv), SCMP_SYS(stat), SCMP_SYS(statfs), SCMP_SYS(statx),
-    SCMP_SYS(write), SCMP_SYS(writev),
+    "access close dup dup2 dup3 faccessat faccessat2 fadvise64 fstat fstatfs getcwd getdents64 "
+    "lseek lstat newfstatat pread64 preadv read readlink readlinkat readv stat statfs statx write "
+    "writev "
     // Waiting, and the time.
-    SCMP_SYS(clock_getres), SCMP_SYS(clock_gettime), SCMP_SYS(clock_nanosleep),
-    SCMP_SYS(epoll_create1), SCMP_SYS(epoll_ctl), SCMP_SYS(epoll_pwait), SCMP_SYS(epoll_wait),
-    SCMP_SYS(eventfd2), SCMP_SYS(futex), SCMP_SYS(gettimeofday), SCMP_SYS(nanosleep),
-    SCMP_SYS(pause), SCMP_SYS(pipe), SCMP_SYS(pipe2), SCMP_SYS(poll), SCMP_SYS(ppoll),
-    SCMP_SYS(pselect6), SCMP_SYS(select), SCMP_SYS(time), SCMP_SYS(times),
+    "clock_getres clock_gettime clock_nanosleep epoll_create1 epoll_ctl epoll_pwait epoll_wait "
+    "eventfd2 futex gettimeofday nanosleep pause pipe pipe2 poll ppoll pselect6 select time times "
     // The process and its threads.
-    SCMP_SYS(arch_prctl), SCMP_SYS(exit), SCMP_SYS(exit_group), SCMP_SYS(get_robust_list),
-    SCMP_SYS(getcpu), SCMP_SYS(getegid), SCMP_SYS(geteuid), SCMP_SYS(getgid), SCMP_SYS(getpgrp),
-    SCMP_SYS(getpid), SCMP_SYS(getppid), SCMP_SYS(getrandom), SCMP_SYS(getrlimit),
-    SCMP_SYS(getrusage), SCMP_SYS(gettid), SCMP_SYS(getuid), SCMP_SYS(restart_syscall),
-    SCMP_SYS(rseq), SCMP_SYS(rt_sigaction), SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn),
-    SCMP_SYS(sched_getaffinity), SCMP_SYS(sched_getparam), SCMP_SYS(sched_getscheduler),
-    SCMP_SYS(sched_yield), SCMP_SYS(set_robust_list), SCMP_SYS(set_tid_address),
-    SCMP_SYS(sigaltstack), SCMP_SYS(sysinfo), SCMP_SYS(uname)};
+    "arch_prctl exit exit_group get_robust_list getcpu getegid geteuid getgid getpgrp getpid "
+    "getppid getrandom getrlimit getrusage gettid getuid restart_syscall rseq rt_sigaction "
+    "rt_sigprocmask rt_sigreturn sched_getaffinity sched_getparam sched_getscheduler sched_yield "
+    "set_robust_list set_tid_address sigaltstack sysinfo uname";
 
-/// No plug-in means well that calls one of these to be read.
-constexpr int Deadly[] = {
-    SCMP_SYS(execve),           SCMP_SYS(execveat),          SCMP_SYS(pidfd_send_signal),
-    SCMP_SYS(process_vm_readv), SCMP_SYS(process_vm_writev), SCMP_SYS(ptrace),
-    SCMP_SYS(rt_sigqueueinfo),  SCMP_SYS(rt_tgsigqueueinfo), SCMP_SYS(tkill)};
+/// No plug-in needs any of these to be read.
+constexpr char Deadly[] = "execve execveat pidfd_send_signal process_vm_readv process_vm_writev "
+                          "ptrace rt_sigqueueinfo rt_tgsigqueueinfo tkill";
 
 /// A rule for a call with certain arguments.
 struct Rule {
@@ -120,10 +108,12 @@ std::vector<sock_filter> compile() {
   auto* const filter = owner.get();
   // A tree is shorter to walk than a list.
   check(seccomp_attr_set(filter, SCMP_FLTATR_CTL_OPTIMIZE, 2));
-  for (int const call : Allowed)
-    check(seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0));
-  for (int const call : Deadly)
-    check(seccomp_rule_add(filter, SCMP_ACT_KILL_PROCESS, call, 0));
+  for (auto const& [action, names] :
+       {std::pair(SCMP_ACT_ALLOW, Allowed), {SCMP_ACT_KILL_PROCESS, Deadly}}) {
+    std::istringstream calls(names);
+    for (std::string call; calls >> call;)
+      check(seccomp_rule_add(filter, action, seccomp_syscall_resolve_name(call.c_str()), 0));
+  }
   for (auto const& [action, call, arguments] : rulesWithArguments())
     check(
         seccomp_rule_add_array(filter, action, call, unsigned(arguments.size()), arguments.data()));

@@ -2,11 +2,11 @@
 
 #include "isolationGaps.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
 #include <linux/landlock.h>
+#include <sstream>
 #include <sys/syscall.h>
 #include <system_error>
 
@@ -25,21 +25,9 @@ namespace Qv {
 namespace {
 
 /// What plug-ins and their libraries read.
-constexpr char const* SystemFiles[] = {"/usr",
-                                       "/opt",
-                                       "/lib",
-                                       "/lib32",
-                                       "/lib64",
-                                       "/etc/ld.so.cache",
-                                       "/etc/fonts",
-                                       "/etc/localtime",
-                                       "/proc/cpuinfo",
-                                       "/proc/meminfo",
-                                       "/sys/devices/system/cpu",
-                                       "/dev/null",
-                                       "/dev/random",
-                                       "/dev/urandom",
-                                       "/dev/zero"};
+constexpr char SystemFiles[] =
+    "/usr:/opt:/lib:/lib32:/lib64:/etc/ld.so.cache:/etc/fonts:/etc/localtime:/proc/cpuinfo:"
+    "/proc/meminfo:/sys/devices/system/cpu:/dev/null:/dev/random:/dev/urandom:/dev/zero:";
 
 /// As the kernel declares it, with what the headers of Debian 12 lack.
 struct Ruleset {
@@ -71,17 +59,13 @@ FileRules::FileRules(std::vector<std::string> const& directories) {
   ruleset_.reset(int(syscall(SYS_landlock_create_ruleset, &all, sizeof all, 0)));
   if (ruleset_.get() < 0)
     throw std::system_error(errno, std::generic_category(), "Landlock");
-  for (char const* const path : SystemFiles)
-    allowReading(path);
   for (std::string const& directory : directories)
     allowReading(directory);
   char const* const libraries = std::getenv("LD_LIBRARY_PATH");
-  for (std::string rest = libraries ? libraries : ""; !rest.empty();) {
-    std::size_t const end = std::min(rest.find(':'), rest.size());
-    if (rest.front() == '/')
-      allowReading(rest.substr(0, end));
-    rest.erase(0, end + 1);
-  }
+  std::istringstream paths(std::string(SystemFiles) + (libraries ? libraries : ""));
+  for (std::string path; std::getline(paths, path, ':');)
+    if (path.starts_with('/'))
+      allowReading(path);
 }
 
 void FileRules::allowReading(std::string const& path) const {

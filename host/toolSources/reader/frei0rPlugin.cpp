@@ -7,6 +7,7 @@
 #include <endian.h>
 #include <fstream>
 #include <span>
+#include <stdexcept>
 
 extern "C" {
 #include <frei0r.h>
@@ -15,6 +16,12 @@ extern "C" {
 namespace Qv {
 
 namespace {
+
+/// Says why a plug-in cannot be read.
+class PluginError : public std::runtime_error {
+public:
+  using std::runtime_error::runtime_error;
+};
 
 /// A number of the plug-in interface and what people call it.
 struct Named {
@@ -81,24 +88,18 @@ void* load(char const* file) {
   throw PluginError(reason);
 }
 
-} // namespace
-
-Frei0rPlugin::Frei0rPlugin(char const* file)
-    : library_(load(file)), init_(entry<int()>("f0r_init")), deinit_(entry<void()>("f0r_deinit")),
-      getPluginInfo_(entry<void(f0r_plugin_info*)>("f0r_get_plugin_info")),
-      getParamInfo_(entry<void(f0r_param_info*, int)>("f0r_get_param_info")) {
-  init_();
-}
-
-template <class Function> Function* Frei0rPlugin::entry(char const* name) const {
-  if (void* const address = dlsym(library_, name))
+template <class Function> Function* entry(void* library, char const* name) {
+  if (void* const address = dlsym(library, name))
     return reinterpret_cast<Function*>(address);
   throw PluginError(std::string("no function ") + name);
 }
 
-ScanResult Frei0rPlugin::read() const {
+ScanResult describe(void* library) {
+  auto* const getPluginInfo = entry<void(f0r_plugin_info*)>(library, "f0r_get_plugin_info");
+  auto* const getParamInfo = entry<void(f0r_param_info*, int)>(library, "f0r_get_param_info");
+  entry<int()>(library, "f0r_init")();
   f0r_plugin_info_t info = {};
-  getPluginInfo_(&info);
+  getPluginInfo(&info);
   char const* const category = nameOf(info.plugin_type, PluginTypes);
   if (!info.name)
     throw PluginError("no name");
@@ -121,12 +122,28 @@ ScanResult Frei0rPlugin::read() const {
                                   std::to_string(info.minor_version)};
   for (int index = 0; index < info.num_params; ++index) {
     f0r_param_info_t parameter = {};
-    getParamInfo_(&parameter, index);
+    getParamInfo(&parameter, index);
     char const* const type = nameOf(parameter.type, ParameterTypes);
     result.parameters.push_back(
         {trimmed(parameter.name), type ? type : "unknown type", trimmed(parameter.explanation)});
   }
   return result;
+}
+
+} // namespace
+
+void readFrei0rPlugin(char const* file, std::function<void(ScanResult const&)> const& reply) {
+  ScanResult result;
+  void (*end)() = [] {};
+  try {
+    void* const library = load(file);
+    end = entry<void()>(library, "f0r_deinit");
+    result = describe(library);
+  } catch (PluginError const& error) {
+    result.failure = error.what();
+  }
+  reply(result);
+  end();
 }
 
 } // namespace Qv

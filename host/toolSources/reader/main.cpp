@@ -1,7 +1,8 @@
-// qvreader [--processor-time SECONDS] [--time MILLISECONDS] FILE...: reads plug-in files, given by
-// their absolute paths, each in a process of its own that is closed in, as many at a time as there
-// are processors. Writes each file and its result on stdout, a pipe, as texts that each end in a
-// zero byte; in place of a file, an empty text comes before the reason why no more can be read.
+// qvreader SECONDS MILLISECONDS FILE...: reads plug-in files, given by their absolute paths, each
+// in an isolated process, as many at a time as there are processors. A plug-in may use that much
+// processor time, and take that long. Writes each file and its result to stdout, a pipe, as texts
+// that each end in a zero byte; an empty text in place of a file is followed by the reason why no
+// more can be read.
 
 #include "pluginProcess.h"
 
@@ -10,7 +11,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <functional>
-#include <getopt.h>
 #include <iterator>
 #include <memory>
 #include <sys/wait.h>
@@ -88,25 +88,13 @@ void readPlugins(std::vector<std::string> const& files, Limits const& limits, in
 int main(int argc, char** argv) {
   using namespace Qv;
 
-  Limits limits = {std::chrono::seconds(5), std::chrono::seconds(30)};
-  constexpr option Options[] = {{"processor-time", required_argument, nullptr, 'p'},
-                                {"time", required_argument, nullptr, 't'},
-                                {}};
-  for (int name = 0; (name = getopt_long(argc, argv, "", Options, nullptr)) != -1;)
-    switch (name) {
-    case 'p':
-      limits.processorTime = std::chrono::seconds(std::atoi(optarg));
-      break;
-    case 't':
-      limits.time = std::chrono::milliseconds(std::atoi(optarg));
-      break;
-    default:
-      return EXIT_FAILURE;
-    }
-
+  if (argc < 3)
+    return EXIT_FAILURE;
+  Limits const limits = {std::chrono::seconds(std::atoi(argv[1])),
+                         std::chrono::milliseconds(std::atoi(argv[2]))};
   int const replies = leaveCaller();
   try {
-    readPlugins({argv + optind, argv + argc}, limits, replies);
+    readPlugins({argv + 3, argv + argc}, limits, replies);
   } catch (std::exception const& error) {
     std::string text;
     appendText(text, "");

@@ -35,12 +35,6 @@ void reply(int pipe, ScanResult const& result) {
   close(pipe);
 }
 
-ScanResult failed(std::string reason) {
-  ScanResult result;
-  result.failure = std::move(reason);
-  return result;
-}
-
 std::string signalName(int signal) {
   // Not all signals have one.
   char const* const name = sigabbrev_np(signal);
@@ -50,13 +44,7 @@ std::string signalName(int signal) {
 /// What the child process does. Whatever the plug-in throws ends it, and nothing is run at its end,
 /// where a stranger may have put something.
 [[noreturn]] void readPlugin(std::string const& file, int pipe) noexcept {
-  try {
-    Frei0rPlugin const plugin(file.c_str());
-    reply(pipe, plugin.read());
-    // At its end, the plug-in has replied.
-  } catch (PluginError const& error) {
-    reply(pipe, failed(error.what()));
-  }
+  readFrei0rPlugin(file.c_str(), [&](ScanResult const& result) { reply(pipe, result); });
   _exit(EXIT_SUCCESS);
 }
 
@@ -83,7 +71,7 @@ PluginProcess::PluginProcess(std::string file, Isolation const& isolation, Limit
   if (process_ == 0) {
     if (isolation.closeIn(pipe.get(), limits_.processorTime) && getppid() == parent)
       readPlugin(file_, pipe.get());
-    reply(pipe.get(), failed(std::string("cannot be closed in: ") + std::strerror(errno)));
+    reply(pipe.get(), {.failure = std::string("cannot be isolated: ") + std::strerror(errno)});
     _exit(EXIT_SUCCESS);
   }
   if (process_ > 0)
@@ -120,9 +108,7 @@ ScanResult PluginProcess::takeResult() {
   int const status = finish();
   if (result_)
     return *result_;
-  ScanResult result = failed(describeFailure(status));
-  result.passing = !ended_ && reply_.size() <= LongestReply;
-  return result;
+  return {.failure = describeFailure(status), .passing = !ended_ && reply_.size() <= LongestReply};
 }
 
 void PluginProcess::parseReply() {
