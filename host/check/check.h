@@ -1,16 +1,14 @@
 #pragma once
 
 #include "actTypedAction.h"
-#include "brServer.h"
 #include "exBase.h"
+#include "items.h"
 #include "oPtr.h"
 
 #include <filesystem>
 #include <fmt/format.h>
 #include <functional>
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace Qv {
 
@@ -64,11 +62,7 @@ void lookAt(std::string_view what);
 std::string describeException();
 
 using Item = RCShdPtr<BrBrowsable>;
-using Items = std::vector<Item>;
 using BrowserAction = ActTypedAction<RCShdPtr<BrBrowser>, RCShdPtr<BrNode>>;
-
-inline constexpr BrBrowsable::FindFilter AllChildren{0};
-inline constexpr BrBrowsable::FindFilter ItemsOnly{2};
 
 /// The item at a path of a scheme. @throws Fault when there is none, or the message is written.
 Item itemAt(BrServer& server, LiString const& path);

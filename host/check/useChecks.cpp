@@ -1,34 +1,30 @@
+#include "actions.h"
 #include "brBrowser.h"
-#include "brDetailView.h"
 #include "check.h"
-#include "drCarrier.h"
+#include "detailPage.h"
+#include "dragging.h"
 #include "hostActRegistry.h"
 #include "hostBrRegistry.h"
 #include "hostDndRegistry.h"
-#include "hostWorkspace.h"
 
 namespace Qv {
 
 namespace {
 
-using Browser = RCShdPtr<BrBrowser>;
 using Carrier = RCShdPtr<DrCarrier>;
 using Node = RCShdPtr<BrNode>;
 using Selection = RCShdPtr<SnSelection>;
 
-/// What arrives of an item that can be dragged.
-std::string drag(Item const& item) {
-  RCShdPtr<BrDndHandler> const handler = HostDndRegistry::getInstance().findHandler(*item);
-  if (!handler || !handler->willPopulateSelection(item))
+std::string dragItem(Item const& item) {
+  Carrier const carrier = startDrag(item);
+  if (!carrier)
     return "";
-  Carrier const carrier(new DrCarrier(SnSelection::create()));
-  handler->populateSelection(item, carrier);
   auto const& items = carrier->getSelection()->getItems();
   require(!items.empty(), "it can be dragged, and nothing arrives");
   for (RCShdPtr<SnItem const> const& dragged : items)
     require(dragged->isEqual(*RCShdPtr<SnItem>(dragged->clone())),
             "what arrives does not equal its clone");
-  return fmt::format("{} arrive", items.size());
+  return "it arrives";
 }
 
 void probeHandlers(Item const& item) {
@@ -55,21 +51,16 @@ std::string checkDrags() {
     probeHandlers(type);
   return forEachItem([](Item const& item) {
     probeHandlers(item);
-    drag(item);
+    dragItem(item);
   });
 }
 
-/// The pages that show an item.
-std::string show(Item const& item) {
-  OPtr<BrView> const view = HostBrRegistry::getInstance().createDetailView(item);
-  auto* const detail = dynamic_cast<BrDetailView*>(view.get());
-  if (!detail)
+std::string showItem(Item const& item) {
+  std::optional<DetailPage> page = DetailPage::create(item);
+  if (!page)
     return "";
-  detail->buildUi(Selection());
-  detail->setDetailInfo();
-  detail->setContent(item, Selection());
-  detail->setContent(item, Selection());
-  return fmt::format("{} pages", detail->getPages().size());
+  page->show(item);
+  return page->show(item).view;
 }
 
 std::string checkDetails() {
@@ -95,43 +86,30 @@ std::string checkDetails() {
       }
       view->externalClose();
     }
-  return forEachItem([](Item const& item) { show(item); });
+  return forEachItem([](Item const& item) { showItem(item); });
 }
 
-/// Calls `f` with each action, while there is that workspace.
-void forEachAction(RCShdPtr<UiWorkspace> const& workspace,
-                   std::function<void(BrowserAction&)> const& f) {
-  HostWorkspace::setCurrent(workspace);
-  for (auto const& [action, state] : HostActRegistry::getInstance().getEntries())
-    if (auto* const typed = dynamic_cast<BrowserAction*>(action.get()))
-      f(*typed);
-}
-
-/// What the actions open for an item.
-std::string perform(Item const& item) {
-  RCShdPtr<HostWorkspace> const workspace(new HostWorkspace);
-  Node const node = BrNode::create(item);
-  Browser const browser(new BrBrowser);
-  forEachAction(workspace, [&](BrowserAction& action) {
-    if (action.typedInputValid(browser, node))
-      action.typedPerformAction(browser, node);
-  });
+std::string performActions(Item const& item) {
   std::string result;
-  for (HostWorkspace::Request const& request : workspace->getRequests())
-    result += request.view + ", ";
+  for (OfferedAction const& action : getActions(item))
+    if (action.valid)
+      for (HostWorkspace::Request const& request : performAction(action.name, item))
+        result += request.view;
+  HostWorkspace::setCurrent(RCShdPtr<UiWorkspace>());
   return result;
 }
 
 void probeActions(Node const& node) {
-  for (bool const bare : {true, false})
-    forEachAction(bare ? RCShdPtr<UiWorkspace>() : RCShdPtr<UiWorkspace>(new HostWorkspace),
-                  [&](BrowserAction& action) {
-                    Browser const browser(bare ? nullptr : new BrBrowser);
-                    Vector<LiString> options;
-                    mayRefuse([&] { action.typedInputValid(browser, node); });
-                    mayRefuse([&] { action.typedEnumOptions(browser, node, options); });
-                    mayRefuse([&] { action.typedPerformAction(browser, node); });
-                  });
+  for (HostActRegistry::Entry const& entry : HostActRegistry::getInstance().getEntries())
+    for (bool const bare : {true, false})
+      if (auto* const action = dynamic_cast<BrowserAction*>(entry.action.get())) {
+        HostWorkspace::setCurrent(RCShdPtr<UiWorkspace>(bare ? nullptr : new HostWorkspace));
+        RCShdPtr<BrBrowser> const browser(bare ? nullptr : new BrBrowser);
+        Vector<LiString> options;
+        mayRefuse([&] { action->typedInputValid(browser, node); });
+        mayRefuse([&] { action->typedEnumOptions(browser, node, options); });
+        mayRefuse([&] { action->typedPerformAction(browser, node); });
+      }
 }
 
 std::string checkActions() {
@@ -142,7 +120,7 @@ std::string checkActions() {
   probeActions(BrNode::create(Item()));
   return forEachItem([](Item const& item) {
     probeActions(BrNode::create(item));
-    perform(item);
+    performActions(item);
   });
 }
 
@@ -154,7 +132,7 @@ template <std::string use(Item const&)> std::string useItems() {
 
 std::string checkFailures() {
   std::string result;
-  for (auto* const use : {&useItems<drag>, &useItems<show>, &useItems<perform>})
+  for (auto* const use : {&useItems<dragItem>, &useItems<showItem>, &useItems<performActions>})
     if (!use().empty())
       result += (result.empty() ? "" : "; ") + sweepFailures(use);
   return result.empty() ? throw Skipped("nothing can be done with its items") : result;
