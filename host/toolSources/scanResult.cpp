@@ -6,9 +6,9 @@
 namespace Qv {
 
 void ScanResult::appendTo(std::string& bytes) const {
+  std::string const count = std::to_string(parameters.size());
   for (std::string_view const text : std::initializer_list<std::string_view>{
-           failure, passing ? "passing" : "", category, name, explanation, author, version,
-           std::to_string(parameters.size())})
+           failure, passing ? "passing" : "", category, name, explanation, author, version, count})
     appendText(bytes, text);
   for (PluginParameter const& parameter : parameters)
     for (std::string const* const text : {&parameter.name, &parameter.type, &parameter.explanation})

@@ -51,7 +51,7 @@ Ruleset allOf(long version) {
 
 } // namespace
 
-FileRules::FileRules(std::vector<std::string> const& directories) {
+FileRules::FileRules(std::set<std::string> const& directories) {
   long const version = getLandlockVersion();
   if (version < 1)
     return;

@@ -2,8 +2,8 @@
 
 #include "descriptor.h"
 
+#include <set>
 #include <string>
-#include <vector>
 
 namespace Qv {
 
@@ -14,7 +14,7 @@ class FileRules {
 public:
   /// @param directories may be read besides the system's.
   /// @throws std::system_error when the kernel refuses the rules.
-  explicit FileRules(std::vector<std::string> const& directories);
+  explicit FileRules(std::set<std::string> const& directories);
 
   /// Restricts this process for good. @returns false, with errno, when the kernel refuses to.
   bool apply() const;

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <linux/capability.h>
 #include <poll.h>
 #include <set>
@@ -43,20 +44,15 @@ bool limitResources(std::chrono::seconds processorTime) {
          limit(RLIMIT_AS, AddressSpace, AddressSpace);
 }
 
-/// The directories in which a plug-in file lies, by its name and by what that refers to.
-std::vector<std::string> directoriesOf(std::vector<std::string> const& plugins) {
-  auto const directoryOf = [](std::string const& file) {
-    return file.substr(0, file.rfind('/') + 1);
-  };
+/// The directories of plug-in files, by their names and by what those refer to.
+std::set<std::string> directoriesOf(std::vector<std::string> const& plugins) {
   std::set<std::string> directories;
-  for (std::string const& plugin : plugins) {
-    directories.insert(directoryOf(plugin));
-    if (char* const resolved = realpath(plugin.c_str(), nullptr)) {
-      directories.insert(directoryOf(resolved));
-      std::free(resolved);
-    }
+  for (std::filesystem::path const plugin : plugins) {
+    std::error_code error;
+    directories.insert(plugin.parent_path());
+    directories.insert(std::filesystem::weakly_canonical(plugin, error).parent_path());
   }
-  return {directories.begin(), directories.end()};
+  return directories;
 }
 
 } // namespace
