@@ -21,6 +21,7 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build/release"
 PROGRAM = "bin/benchmarks"  # In main's temporary directory.
+WINDOW = "bin/windowBench"
 COUNTS = ROOT / "benchmarks/counts.txt"
 TEMPLATE = ROOT / "benchmarks/performance.template.md"
 DOCUMENT = ROOT / "docs/performance.md"
@@ -57,6 +58,21 @@ def elements(case):
     for factor in factors:
         result *= int(factor)
     return result
+
+
+def measure_window():
+    """Milliseconds to open a list in the window and in a QStandardItemModel."""
+    times = {}
+    for number in range(LONG_ROUNDS):
+        print(f"Window, round {number + 1} of {LONG_ROUNDS}", file=sys.stderr)
+        for size in (10_000, 100_000):
+            for what in ("window", "standard"):
+                total, module, block = map(float, run(WINDOW, what, str(size)).stdout.split())
+                times.setdefault(f"open/{what}/{size}", []).append(total)
+                if what == "window":
+                    times.setdefault(f"open/module/{size}", []).append(module)
+                    times.setdefault(f"open/block/{size}", []).append(block)
+    return times
 
 
 def is_long(case):
@@ -269,8 +285,9 @@ def main():
             sys.exit(not check(counts))
         times = measure_times(cases)
         catalogue_times, memory = measure_catalogue()
+        window_times = measure_window()
     write_counts(counts)
-    write_document(Figures(times | catalogue_times, counts, memory))
+    write_document(Figures(times | catalogue_times | window_times, counts, memory))
     draw(times)
 
 
