@@ -1,8 +1,10 @@
 #include "commands.h"
 #include "safeText.h"
 
+#include <array>
+#include <csignal>
+#include <cstdlib>
 #include <cstring>
-#include <sstream>
 #include <sys/wait.h>
 
 namespace fs = std::filesystem;
@@ -16,13 +18,15 @@ struct Options {
   unsigned seconds = 60;
 };
 
-/// What a run of qvcheck writes, line by line, and its status.
+/// The last lines that a run of qvcheck writes, and its status.
 std::pair<std::vector<std::string>, int> runChecker(std::string const& arguments) {
   FILE* const checker = popen(("exec \"$QV_CHECKER\" " + arguments).c_str(), "re");
   std::vector<std::string> lines;
   for (std::array<char, 4096> line; checker && std::fgets(line.data(), line.size(), checker);) {
     lines.emplace_back(line.data());
     lines.back().pop_back();
+    if (lines.size() == 1000)
+      lines.erase(lines.begin(), lines.end() - 100);
   }
   return {std::move(lines), checker ? pclose(checker) : -1};
 }
@@ -57,6 +61,8 @@ Json listChecks(std::string const& only) {
                         {"happened", ""},
                         {"expected", lines[line + 1]},
                         {"see", "docs/host-contract.md, \"" + lines[line + 2] + "\""}});
+  if (lines.empty())
+    throw std::runtime_error("cannot start qvcheck, which makes the checks");
   if (checks.empty())
     throw std::invalid_argument(fmt::format("no check's name begins with \"{}\"", only));
   return checks;

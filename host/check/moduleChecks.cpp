@@ -27,7 +27,9 @@ namespace {
 
 std::string checkImports() {
   fs::path const host = boost::dll::symbol_location(HostJournal::getInstance).parent_path();
-  setenv("LD_LIBRARY_PATH", host.c_str(), 1);
+  char const* const others = std::getenv("LD_LIBRARY_PATH");
+  std::string const path = host.string() + (others ? ":" + std::string(others) : "");
+  setenv("LD_LIBRARY_PATH", path.c_str(), 1);
   setenv("QV_MODULE", moduleFile().c_str(), 1);
   // The loader itself names all that it misses, and runs nothing of the file.
   std::unique_ptr<FILE, decltype(&pclose)> const loader(popen("ldd -r \"$QV_MODULE\" 2>&1", "r"),
