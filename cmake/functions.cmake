@@ -20,6 +20,17 @@ function(qv_public_headers target)
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qvbrowse/${name})
 endfunction()
 
+# qv_host_parts(<target>): gives everyone who links to the static library the headers in its
+# directory, and installs both, for programs that are hosts.
+function(qv_host_parts target)
+  file(GLOB headers CONFIGURE_DEPENDS *.h)
+  target_sources(${target} PUBLIC FILE_SET HEADERS FILES ${headers})
+  install(TARGETS ${target} EXPORT QvPluginBrowserBrowsing
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}/qvbrowse-dev COMPONENT development
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qvbrowse/${target}
+      COMPONENT development)
+endfunction()
+
 # qv_install_library(<target>): installs a library of the host or the module.
 function(qv_install_library target)
   set_target_properties(${target} PROPERTIES

@@ -9,6 +9,8 @@ write_basic_package_version_file(${config_version} COMPATIBILITY SameMajorVersio
 install(FILES ${config} ${config_version} DESTINATION ${config_dir} COMPONENT development)
 install(EXPORT QvPluginBrowser NAMESPACE QvPluginBrowser:: FILE QvPluginBrowserTargets.cmake
   DESTINATION ${config_dir} COMPONENT development)
+install(EXPORT QvPluginBrowserBrowsing NAMESPACE QvPluginBrowser::
+  FILE QvPluginBrowserBrowsingTargets.cmake DESTINATION ${config_dir} COMPONENT development)
 install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/docs/host-contract.md
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/qvbrowse COMPONENT runtime)
 

@@ -187,7 +187,7 @@ TEST_F(StrangeWindow, showsTextsOfStrangersAsTheyAre) {
   for (std::string const& text :
        {"<img src='" + pipe + "'>", "<html><b>&amp;bold</b><br><img src=\"file://" + pipe + "\">",
         std::string(1 << 20, 'x'), std::string("a\x1b[31m\xff\n\tb&c"),
-        std::string("safe\u202Egnp.exe")}) {
+        std::string("safe\xe2\x80\xaegnp.exe")}) {
     openStrange(text);
     QModelIndex const cell = list().model()->index(1, 0);
     click(list(), cell);

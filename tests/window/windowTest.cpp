@@ -75,7 +75,7 @@ TEST_F(Window, goesWhereATypedPathLeads) {
            {"a/b/c", {"file"}, "", "the scheme \"tools\" has no item with the path \"a/b/c\""},
            {"Stone/axe", {"file"}, "", "no item \"Stone/axe\" is listed"}}) {
     settle([&] {
-      QLineEdit& path = find<QLineEdit>("Path");
+      auto& path = find<QLineEdit>("Path");
       path.clear();
       QTest::keyClicks(&path, test.typed);
       QTest::keyClick(&path, Qt::Key_Return);
