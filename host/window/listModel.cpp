@@ -61,7 +61,7 @@ void ListModel::timerEvent(QTimerEvent* event) {
     // What fails half-way is shown as far as it came.
     if (failures_.guard([&] { return !readOn(); }))
       return;
-    failures_.guard([&] { sort(); });
+    failures_.guard([&] { startSorting(); });
   }
   QElapsedTimer clock;
   clock.start();
@@ -94,7 +94,7 @@ bool ListModel::readOn() {
   }
 }
 
-void ListModel::sort() {
+void ListModel::startSorting() {
   reading_->query = RCShdPtr<BrChildrenQuery>();
   auto const keys = std::make_shared<Keys>(std::move(reading_->keys));
   keys->resize(reading_->items.size());

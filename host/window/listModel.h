@@ -52,7 +52,7 @@ private:
 
   /// Reads on until the slice is over. @returns whether all is read.
   bool readOn();
-  void sort();
+  void startSorting();
   void finish(std::vector<std::uint32_t> const& order);
   void replace(Items items);
 
