@@ -4,7 +4,7 @@
 
 namespace Qv {
 
-/// A file descriptor that is closed at the end; -1 is none.
+/// Owns a file descriptor; -1 is none.
 class Descriptor {
 public:
   explicit Descriptor(int number = -1) : number_(number) {}

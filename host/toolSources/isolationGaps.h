@@ -5,14 +5,13 @@
 
 namespace Qv {
 
-/// The version of Landlock that the kernel has; less than 1, with errno, when it has none.
+/// The kernel's version of Landlock; less than 1, with errno, if it has none.
 long getLandlockVersion();
 
-/// Whether the kernel filters system calls, and ends processes that make some; sets errno if not.
+/// Whether the kernel can filter system calls and kill processes for them; sets errno if not.
 bool canFilterCalls();
 
-/// What qvreader cannot keep a plug-in from on this machine, and why, a phrase each; empty when it
-/// keeps it from all.
+/// What qvreader cannot prevent on this machine, and why, a phrase each.
 std::vector<std::string> findIsolationGaps();
 
 } // namespace Qv

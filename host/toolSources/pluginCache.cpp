@@ -181,6 +181,7 @@ std::vector<PluginCache::Entry> PluginCache::read(std::vector<fs::path> const& p
     use([&] { compact(); });
   }
   std::vector<Entry> entries;
+  entries.reserve(plugins.size());
   for (fs::path const& plugin : plugins)
     entries.push_back(kept_.at(plugin).entry);
   return entries;

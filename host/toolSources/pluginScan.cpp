@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What plug-ins see of the environment.
+/// The environment variables that plug-ins see.
 constexpr char const* Environment[] = {"LANG",        "LANGUAGE",        "LC_ALL", "LC_CTYPE",
                                        "LC_MESSAGES", "LD_LIBRARY_PATH", "TZ"};
 
@@ -30,7 +30,7 @@ fs::path installedReader() {
   return (fs::read_symlink("/proc/self/exe").parent_path() / QV_READER).lexically_normal();
 }
 
-/// A running qvreader, from its start to its end.
+/// A running qvreader.
 class Reader {
 public:
   /// @throws HostError when it cannot be started.
@@ -68,7 +68,7 @@ public:
       continue;
   }
 
-  /// Waits for more of the replies, and appends it. @returns false at their end.
+  /// Waits for replies and appends them. @returns false at their end.
   bool receive(std::string& replies) {
     std::array<char, 1 << 16> buffer;
     ssize_t count = 0;
@@ -83,6 +83,7 @@ public:
 private:
   static std::vector<char*> pointersTo(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts)
       pointers.push_back(text.data());
     pointers.push_back(nullptr);
@@ -94,7 +95,7 @@ private:
   bool ended_ = false;
 };
 
-/// Takes the first result out of the replies. @returns nothing when none is complete.
+/// Removes the first result from the replies. @returns nothing when none is complete.
 std::optional<std::pair<std::string, ScanResult>> takeResult(std::string& replies) {
   std::string_view rest = replies;
   std::string file(takeText(rest).value_or(""));
@@ -117,7 +118,7 @@ void scanPlugins(std::vector<fs::path> const& files, ScanOptions const& options,
                                 fmt::join(gaps, ", ")));
   Reader reader(files, options);
   std::set<std::string> waiting(files.begin(), files.end());
-  // They are started in this order, so this one has been waited for the longest.
+  // Files are started in order, so this one has been waited for longest.
   auto first = files.begin();
   std::string replies;
   do {

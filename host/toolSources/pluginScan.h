@@ -22,11 +22,10 @@ struct ScanOptions {
   std::chrono::seconds processorTime{5};
   /// The program qvreader; empty for the one installed with this program.
   std::filesystem::path reader = {};
-  /// Told what is being waited for. The text may hold the name of a plug-in file: bytes that are to
-  /// be escaped, and cut off where they do not fit.
+  /// Told what is being waited for. The text may hold a file name, to be escaped and cut to fit.
   std::function<void(std::string const&)> progress = [](std::string const&) {};
-  /// Told, in a sentence, what is not as the user may expect but stops nothing: a place that cannot
-  /// be read, a cache that cannot be used. The text may hold file names, to be escaped as well.
+  /// Told, in a sentence, of a problem that stops nothing: a directory that cannot be searched, a
+  /// cache that cannot be used. The text may hold file names, to be escaped as well.
   std::function<void(std::string const&)> notice = [](std::string const&) {};
 
   /// Limits both times: how long a plug-in may take, and how much of that it may compute.
@@ -42,7 +41,7 @@ using TakeResult = std::function<void(std::string const& file, ScanResult result
 /// on any thread.
 /// @param files are absolute paths.
 /// @param take is called with each result as soon as it is known.
-/// @throws HostError when they cannot be read, or must not as there are gaps.
+/// @throws HostError if qvreader fails, or isolation is required and incomplete.
 void scanPlugins(std::vector<std::filesystem::path> const& files, ScanOptions const& options,
                  TakeResult const& take);
 

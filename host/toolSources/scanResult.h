@@ -12,7 +12,7 @@ namespace Qv {
 inline constexpr std::array<char const*, 4> PluginCategories = {"Source", "Filter", "Mixer2",
                                                                 "Mixer3"};
 
-/// More than any plug-in has.
+/// More than any honest plug-in has.
 inline constexpr int MostParameters = 1000;
 
 /// A parameter of a plug-in, as the plug-in describes it.
@@ -27,7 +27,7 @@ struct PluginParameter {
 struct ScanResult {
   /// Why there is no tool; empty when there is one.
   std::string failure = {};
-  /// Whether another attempt may have another result, as after a time-out.
+  /// Whether another attempt may succeed, as after a time-out.
   bool passing = false;
   /// One of PluginCategories, when there is a tool.
   std::string category = {};

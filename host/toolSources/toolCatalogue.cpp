@@ -92,7 +92,7 @@ private:
   std::size_t column_ = 0;
 };
 
-/// An iterator over the bytes of an input; null is the end.
+/// Iterates over the bytes of an input; null is the end.
 struct InputIterator {
   using iterator_category = std::input_iterator_tag;
   using value_type = char;
@@ -117,7 +117,7 @@ constexpr char const* TypeNames[] = {"an object", "an array", "a string", "true 
 struct Key {
   char const* name;
   Type type;
-  /// What the value names if it is a name, which is then required.
+  /// What the value names; null unless it is a name. Names are required.
   char const* component = nullptr;
 };
 
@@ -131,7 +131,7 @@ constexpr Key ToolKeys[] = {{"name", String, "tool name"},
                             {"tooltip", String}};
 constexpr Key ViewKeys[] = {{"name", String, "view name"}, {"label", String}, {"tooltip", String}};
 
-/// Takes a catalogue as the parser reads it.
+/// Builds a source from the events of the JSON parser.
 class Parser {
 public:
   explicit Parser(Input& input) : input_(input) {}
@@ -354,7 +354,7 @@ ToolSource readToolCatalogue(fs::path const& file) {
   } catch (std::bad_alloc const&) {
     throw HostError(fmt::format("cannot read the catalogue \"{}\": out of memory", file.string()));
   } catch (Fault& fault) {
-    // An error's text would end at a zero byte of a key.
+    // A message would end at a zero byte of a key.
     for (std::size_t at = 0; (at = fault.place.find('\0')) != std::string::npos;)
       fault.place.replace(at, 1, "\\x00");
     throw HostError(fmt::format("the catalogue \"{}\" has a fault at {}: {}", file.string(),

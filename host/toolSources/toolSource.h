@@ -10,9 +10,9 @@
 
 namespace Qv {
 
-/// Tools and views of one origin, read and checked, and not registered yet.
+/// Tools and views of one origin, checked but not registered.
 struct ToolSource {
-  /// What people call it: a file, a directory.
+  /// The catalogue file; empty for plug-ins.
   std::string origin;
 
   struct Tool {
@@ -23,7 +23,7 @@ struct ToolSource {
 
   struct View {
     std::string name;
-    /// What people read in place of the name.
+    /// Shown in place of the name.
     std::string label;
     /// Empty when there is none.
     std::string tooltip;
@@ -33,11 +33,11 @@ struct ToolSource {
   struct Plugin {
     /// An absolute path.
     std::filesystem::path file;
-    /// The plug-in directory that it was found in, itself or in a vendor's folder.
+    /// The plug-in directory in which it was found, or in a vendor folder of which.
     std::filesystem::path place = {};
     /// Why it could not be read; empty when it was, or when it is hidden.
     std::string failure = {};
-    /// The plug-in file of the same name in an earlier place that is taken instead; mostly empty.
+    /// The plug-in file of the same name, in an earlier place, that hides this one; usually empty.
     std::filesystem::path hiddenBy = {};
     /// Whether the result comes from an earlier run.
     bool cached = false;
@@ -49,7 +49,7 @@ struct ToolSource {
     std::vector<PluginParameter> parameters = {};
   };
 
-  /// In the order in which they are listed; the same name may come again.
+  /// In the order in which they are listed; duplicates are allowed.
   std::vector<std::string> categories;
   std::vector<Tool> tools;
   std::vector<View> views;
@@ -58,9 +58,9 @@ struct ToolSource {
 };
 
 /// Adds the categories and tools to the host's tool registry, the views to its view factory, and
-/// the tooltips of both to its tooltip server. A category that an earlier source lists is not added
-/// again; under one name, the first tooltip stays.
-/// @throws HostError when two sources have a view of the same name; nothing is registered then.
+/// the tooltips of both to its tooltip server. Skips categories that an earlier source lists; of
+/// several tooltips of one name, the first stays.
+/// @throws HostError if two sources have a view of the same name; nothing is registered then.
 void registerToolSources(std::vector<ToolSource> sources);
 
 } // namespace Qv

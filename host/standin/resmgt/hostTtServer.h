@@ -14,7 +14,7 @@ public:
 
   /// Keeps an earlier text.
   void addTooltip(std::string key, std::string text) {
-    tooltips_.try_emplace(std::move(key), std::move(text));
+    tooltips_.emplace(std::move(key), std::move(text));
   }
   void clear() { tooltips_.clear(); }
 

@@ -26,7 +26,7 @@ namespace Qv {
 
 namespace {
 
-/// Stands in the prepared filter for the number of the process that it is applied to.
+/// Placeholder for the id of the process that the filter is applied to.
 constexpr std::uint32_t Self = 0x53454c46;
 
 /// Harmless whatever the arguments, since files are left to Landlock.
@@ -72,20 +72,19 @@ scmp_arg_cmp equalsIn(std::uint64_t mask, unsigned argument, std::uint64_t value
 std::vector<Rule> rulesWithArguments() {
   constexpr unsigned Writing = O_ACCMODE | O_CREAT | O_TRUNC;
   std::vector<Rule> rules = {
-      // Landlock of the kernel of Debian 12 does not see that a file is truncated.
+      // Debian 12's Landlock does not cover truncation.
       {SCMP_ACT_ALLOW, SCMP_SYS(open), {equalsIn(Writing, 1, O_RDONLY)}},
       {SCMP_ACT_ALLOW, SCMP_SYS(openat), {equalsIn(Writing, 2, O_RDONLY)}},
-      // Whether it is a terminal.
+      // isatty().
       {SCMP_ACT_ALLOW, SCMP_SYS(ioctl), {equals(1, TCGETS)}},
       {SCMP_ACT_ALLOW, SCMP_SYS(prctl), {equals(0, PR_SET_NAME)}},
       {SCMP_ACT_ALLOW, SCMP_SYS(prctl), {equals(0, PR_SET_VMA)}},
-      // To ask for its own limits.
+      // Reading its own limits.
       {SCMP_ACT_ALLOW, SCMP_SYS(prlimit64), {equals(0, 0), equals(2, 0)}},
-      // A thread, not a process. The newer call cannot be looked into; without it, the older one
-      // is taken.
+      // Threads, not processes. A filter cannot see the flags of clone3; glibc falls back to clone.
       {SCMP_ACT_ALLOW, SCMP_SYS(clone), {equalsIn(CLONE_THREAD, 0, CLONE_THREAD)}},
       {SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), {}}};
-  // Not those with which a descriptor signals another process.
+  // Not F_SETOWN and the like, which signal other processes.
   for (unsigned const command : {F_DUPFD, F_DUPFD_CLOEXEC, F_GETFD, F_SETFD, F_GETFL, F_SETFL})
     rules.push_back({SCMP_ACT_ALLOW, SCMP_SYS(fcntl), {equals(1, command)}});
   // A signal to itself, as abort() sends one.
@@ -96,7 +95,6 @@ std::vector<Rule> rulesWithArguments() {
   return rules;
 }
 
-/// Turns what the library returns into an exception.
 void check(int status) {
   if (status < 0)
     throw std::system_error(-status, std::generic_category(), "seccomp");
@@ -106,7 +104,7 @@ std::vector<sock_filter> compile() {
   std::unique_ptr<void, void (*)(scmp_filter_ctx)> const owner(seccomp_init(SCMP_ACT_ERRNO(EPERM)),
                                                                &seccomp_release);
   auto* const filter = owner.get();
-  // A tree is shorter to walk than a list.
+  // A binary tree.
   check(seccomp_attr_set(filter, SCMP_FLTATR_CTL_OPTIMIZE, 2));
   for (auto const& [action, names] :
        {std::pair(SCMP_ACT_ALLOW, Allowed), {SCMP_ACT_KILL_PROCESS, Deadly}}) {

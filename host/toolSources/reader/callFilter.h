@@ -5,17 +5,15 @@
 
 namespace Qv {
 
-/// The system calls that are left to a process: those that reading a plug-in needs. It is a list
-/// of what is allowed, since a list of what is not would have to grow with the kernel. Where the
-/// kernel cannot filter, nothing is refused.
+/// Allows a process only the system calls that reading a plug-in needs. A list of forbidden calls
+/// would have to grow with the kernel. Where the kernel cannot filter, nothing is refused.
 class CallFilter {
 public:
-  /// Takes longer than to apply it.
-  /// @throws std::system_error when there is no filter.
+  /// Compiles the filter. @throws std::system_error.
   CallFilter();
 
-  /// Filters the calls of this process, which has one thread, for good.
-  /// @returns false, with errno, when the kernel refuses to.
+  /// Filters the calls of this single-threaded process for good. @returns false, with errno, if the
+  /// kernel refuses.
   bool apply() const;
 
 private:

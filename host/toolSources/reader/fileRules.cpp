@@ -10,7 +10,7 @@
 #include <sys/syscall.h>
 #include <system_error>
 
-// Younger than the headers of Debian 12.
+// Not in the headers of Debian 12.
 #ifndef LANDLOCK_ACCESS_NET_BIND_TCP
 #define LANDLOCK_ACCESS_NET_BIND_TCP (1ULL << 0)
 #define LANDLOCK_ACCESS_NET_CONNECT_TCP (1ULL << 1)
@@ -29,7 +29,7 @@ constexpr char SystemFiles[] =
     "/usr:/opt:/lib:/lib32:/lib64:/etc/ld.so.cache:/etc/fonts:/etc/localtime:/proc/cpuinfo:"
     "/proc/meminfo:/sys/devices/system/cpu:/dev/null:/dev/random:/dev/urandom:/dev/zero:";
 
-/// As the kernel declares it, with what the headers of Debian 12 lack.
+/// The kernel's landlock_ruleset_attr, with fields that the headers of Debian 12 lack.
 struct Ruleset {
   __u64 files;
   __u64 network;
@@ -38,7 +38,7 @@ struct Ruleset {
 
 /// All that a version of Landlock can refuse.
 Ruleset allOf(long version) {
-  // The rights are numbered in the order in which they came: with the first version, moving files,
+  // Rights are numbered in the order in which versions added them: 13 at first, then moving files,
   // truncating, and controlling devices.
   int const rights = version < 2 ? 13 : version < 3 ? 14 : version < 5 ? 15 : 16;
   Ruleset all = {(1ULL << rights) - 1, 0, 0};
@@ -69,7 +69,7 @@ FileRules::FileRules(std::set<std::string> const& directories) {
 }
 
 void FileRules::allowReading(std::string const& path) const {
-  // What is missing cannot be read anyway.
+  // A missing file cannot be opened, and needs no rule.
   Descriptor const file(open(path.c_str(), O_PATH | O_CLOEXEC));
   landlock_path_beneath_attr rule = {LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR,
                                      file.get()};
@@ -78,7 +78,7 @@ void FileRules::allowReading(std::string const& path) const {
            0;
   };
   if (file.get() >= 0 && !add()) {
-    // Of a file, only this can be allowed.
+    // The only right that applies to a file.
     rule.allowed_access = LANDLOCK_ACCESS_FS_READ_FILE;
     add();
   }

@@ -7,16 +7,15 @@
 
 namespace Qv {
 
-/// What Landlock leaves a process: to read system files and some directories, and nothing else. Of
-/// the network and of signals it refuses what the kernel knows to refuse. Where there is no
-/// Landlock, nothing is refused.
+/// Lets a process read system files and some directories, and no other files, with Landlock.
+/// Refuses the network and signals as far as the kernel can. Without Landlock, nothing is refused.
 class FileRules {
 public:
   /// @param directories may be read besides the system's.
   /// @throws std::system_error when the kernel refuses the rules.
   explicit FileRules(std::set<std::string> const& directories);
 
-  /// Restricts this process for good. @returns false, with errno, when the kernel refuses to.
+  /// Restricts this process for good. @returns false, with errno, if the kernel refuses.
   bool apply() const;
 
 private:

@@ -23,7 +23,7 @@ public:
   using std::runtime_error::runtime_error;
 };
 
-/// A number of the plug-in interface and what people call it.
+/// A constant of the plug-in interface or of ELF, and its name.
 struct Named {
   int number;
   char const* name;
@@ -60,7 +60,8 @@ std::string trimmed(char const* text) {
   return result;
 }
 
-/// The header of this program, from the linker.
+/// The ELF header of this program, defined by the linker.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the linker's name.
 extern "C" Elf64_Ehdr const __ehdr_start __attribute__((visibility("hidden")));
 
 std::string processorOf(Elf64_Ehdr const& header) {
@@ -75,7 +76,7 @@ void* load(char const* file) {
   if (void* const library = dlopen(file, RTLD_NOW | RTLD_LOCAL))
     return library;
   std::string reason = dlerror();
-  // Of a library for another processor, the loader says that there is none.
+  // The loader says of a library for another processor that it does not exist.
   Elf64_Ehdr header = {};
   std::ifstream(file, std::ios::binary).read(reinterpret_cast<char*>(&header), sizeof header);
   if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0)

@@ -24,10 +24,10 @@ constexpr rlim_t AddressSpace = RLIM_INFINITY;
 #else
 constexpr rlim_t AddressSpace = 1 << 30;
 #endif
-/// Enough for the libraries of a plug-in, which are opened one after the other.
+/// Enough for the libraries of a plug-in, which are opened one by one.
 constexpr rlim_t OpenFiles = 64;
 
-/// Lowers a limit; one that is lower already stays.
+/// Lowers a limit, never raises it.
 bool limit(__rlimit_resource resource, rlim_t soft, rlim_t hard) {
   rlimit limits = {};
   getrlimit(resource, &limits);
@@ -37,7 +37,7 @@ bool limit(__rlimit_resource resource, rlim_t soft, rlim_t hard) {
 }
 
 bool limitResources(std::chrono::seconds processorTime) {
-  // The first ends the process with a signal of its own, the other one where that is ignored.
+  // SIGXCPU at the soft limit; SIGKILL at the hard one, if that is ignored.
   auto const seconds = rlim_t(processorTime.count());
   return limit(RLIMIT_CORE, 0, 0) && limit(RLIMIT_FSIZE, 0, 0) &&
          limit(RLIMIT_NOFILE, OpenFiles, OpenFiles) && limit(RLIMIT_CPU, seconds, seconds + 1) &&
@@ -60,7 +60,7 @@ std::set<std::string> directoriesOf(std::vector<std::string> const& plugins) {
 int leaveCaller() {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   pollfd pipe = {STDOUT_FILENO, 0, 0};
-  // The caller may have died before the signal was asked for; nobody reads the pipe then.
+  // The caller may have died before the prctl; the pipe is broken then.
   bool const read = poll(&pipe, 1, 0) == 0;
   int const taken = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
   int const devNull = open("/dev/null", O_RDWR | O_CLOEXEC);
@@ -77,7 +77,7 @@ int leaveCaller() {
   sigset_t mask;
   sigemptyset(&mask);
   sigprocmask(SIG_SETMASK, &mask, nullptr);
-  // No core dump, not even by a program that collects them, and no tracing.
+  // No core dump, not even to a collecting program, and no tracing.
   prctl(PR_SET_DUMPABLE, 0);
   __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};
   std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> const capabilities = {};
@@ -91,7 +91,7 @@ int leaveCaller() {
 Isolation::Isolation(std::vector<std::string> const& plugins) : rules_(directoriesOf(plugins)) {}
 
 bool Isolation::closeIn(int pipe, std::chrono::seconds processorTime) const {
-  // In a process group of its own, whatever signals its own group.
+  // Its own process group, in case it signals the group.
   return prctl(PR_SET_PDEATHSIG, SIGKILL) == 0 && setpgid(0, 0) == 0 && rules_.apply() &&
          close_range(STDERR_FILENO + 1, unsigned(pipe) - 1, 0) == 0 &&
          close_range(unsigned(pipe) + 1, ~0U, 0) == 0 && limitResources(processorTime) &&

@@ -37,8 +37,8 @@ std::vector<pollfd> wait(Processes const& processes) {
   return events;
 }
 
-/// Ends what plug-ins left behind, all children of this process but those that still read. Where
-/// system calls are filtered, there is nothing.
+/// Kills what plug-ins left behind: all children of this process that are not reading. There are
+/// none where system calls are filtered.
 void endOrphans(Processes const& processes) {
   auto const isOrphan = [&](pid_t child) {
     return std::none_of(processes.begin(), processes.end(),
@@ -53,7 +53,7 @@ void endOrphans(Processes const& processes) {
       kill(orphan, SIGKILL);
       waitpid(orphan, nullptr, 0);
     }
-    // Those that an orphan had started are now children of this process.
+    // What an orphan had started is now a child of this process.
   } while (!orphans.empty());
 }
 

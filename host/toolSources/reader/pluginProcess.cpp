@@ -21,10 +21,10 @@ namespace Qv {
 
 namespace {
 
-/// More than any honest plug-in has to say.
+/// More than any honest plug-in replies.
 constexpr std::size_t LongestReply = 1 << 20;
 
-/// What a reply starts with. What a plug-in wrote before is in front of it.
+/// Starts a reply. Whatever the plug-in wrote itself comes before it.
 constexpr std::string_view ReplyStart = "reply";
 
 void reply(int pipe, ScanResult const& result) {
@@ -41,8 +41,8 @@ std::string signalName(int signal) {
   return name ? std::string("SIG") + name : "signal " + std::to_string(signal);
 }
 
-/// What the child process does. Whatever the plug-in throws ends it, and nothing is run at its end,
-/// where a stranger may have put something.
+/// Runs in the child process. An exception of the plug-in ends it, and no exit handlers run, since
+/// the plug-in may have installed some.
 [[noreturn]] void readPlugin(std::string const& file, int pipe) noexcept {
   readFrei0rPlugin(file.c_str(), [&](ScanResult const& result) { reply(pipe, result); });
   _exit(EXIT_SUCCESS);
@@ -97,8 +97,8 @@ bool PluginProcess::receive(bool ended) {
     else if (count == 0 || errno != EINTR)
       replies_.reset();
   }
-  // The end of the reply is the end if it is whole; otherwise it is of interest how the process
-  // ends. A process that the plug-in started may keep the pipe open.
+  // A whole reply is enough; otherwise it matters how the process ends. A process that the plug-in
+  // started may keep the pipe open.
   if (ended_ || replies_.get() < 0)
     parseReply();
   return ended_ || result_ || Clock::now() >= deadline_ || reply_.size() > LongestReply;

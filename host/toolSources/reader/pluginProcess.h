@@ -13,14 +13,13 @@ namespace Qv {
 /// Writes all of a text, or ends this process.
 void writeOrExit(int pipe, std::string_view text);
 
-/// How much of the processor's time a plug-in may use, and how long it may take, whatever else the
-/// machine does.
+/// How much processor time a plug-in may use, and how long it may take.
 struct Limits {
   std::chrono::seconds processorTime;
   std::chrono::milliseconds time;
 };
 
-/// A child process that reads one plug-in, from its start to its end.
+/// A child process that reads one plug-in.
 class PluginProcess {
 public:
   using Clock = std::chrono::steady_clock;
@@ -38,7 +37,7 @@ public:
     return {{{replies_.get(), POLLIN, 0}, {end_.get(), POLLIN, 0}}};
   }
 
-  /// Takes what has been replied.
+  /// Reads what has been replied so far.
   /// @param ended says whether the process has ended.
   /// @returns whether there is nothing more to wait for.
   bool receive(bool ended);
@@ -56,9 +55,9 @@ private:
   Limits limits_;
   Clock::time_point deadline_;
   pid_t process_ = -1;
-  /// The end of the pipe to read from; none when the other end is closed.
+  /// The read end of a pipe; none when the other end is closed.
   Descriptor replies_;
-  /// Can be read when the process has ended.
+  /// Readable when the process has ended.
   Descriptor end_;
   bool ended_ = false;
   std::string reply_;
