@@ -2,6 +2,7 @@
 
 // Linking this replaces operator new and delete in the program and in all of its libraries.
 
+#include <climits>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -26,12 +27,13 @@ public:
 /// Runs `f` with its first, second, third ... allocation failing, until a run does not reach the
 /// failure; runs `check` after each failed run. Each failed run must throw std::bad_alloc, and no
 /// run may leak.
+/// @param most how many allocations fail at most.
 /// @returns the number of allocations that failed.
 /// @throws std::logic_error after the first run that breaks this.
 template <class F, class Check = void (*)()>
 int forEachFailingAllocation(
-    F f, Check check = [] {}) {
-  for (int n = 1;; ++n) {
+    F f, Check check = [] {}, int most = INT_MAX) {
+  for (int n = 1; n <= most; ++n) {
     long const before = liveAllocations();
     bool reached = false;
     bool thrown = false;
@@ -55,6 +57,7 @@ int forEachFailingAllocation(
     if (!reached)
       return n - 1;
   }
+  return most;
 }
 
 } // namespace Qv

@@ -15,7 +15,6 @@ namespace Qv {
 
 namespace {
 
-constexpr std::size_t MaxItems = 200;
 constexpr long long UnansweredNumber = -7777;
 
 /// Runs `use` with call `index` of the host failing. @returns whether there was such a call.
@@ -90,7 +89,7 @@ std::string read(BrBrowsable& item) {
   return result;
 }
 
-Items findItems() {
+Items findItems(std::size_t most) {
   Items items;
   for (OPtr<BrServer> const& server : HostBrRegistry::getInstance().getServers())
     items.push_back(itemAt(*server, server->getRootPath("")));
@@ -98,20 +97,20 @@ Items findItems() {
     // The item must outlive its query.
     Item const item = items[next];
     Items const children = nextSequence(*item->getChildren(AllChildren));
-    std::size_t const room = std::min(MaxItems - items.size(), children.size());
+    std::size_t const room = std::min(most - std::min(most, items.size()), children.size());
     items.insert(items.end(), children.begin(), children.begin() + std::ptrdiff_t(room));
   }
   return items;
 }
 
-std::string forEachItem(std::function<void(Item const&)> const& f) {
-  Items const items = findItems();
+std::string forEachItem(std::function<void(Item const&)> const& f, std::size_t most) {
+  Items const items = findItems(most);
   for (Item const& item : items) {
     lookAt(fmt::format("{} \"{}\"", item->getSchemeName(), item->getPath()));
     f(item);
   }
   lookAt("");
-  return fmt::format("{}{} items", items.size() < MaxItems ? "" : "the first ", items.size());
+  return fmt::format("{}{} items", items.size() < most ? "" : "the first ", items.size());
 }
 
 std::string sweepFailures(std::function<std::string()> const& use) {
@@ -134,8 +133,10 @@ std::string sweepFailures(std::function<std::string()> const& use) {
     require(liveAllocations() == live, "call {} failed; allocations lost: {}", calls + 1,
             liveAllocations() - live);
   }
-  return fmt::format("{} calls and {} allocations failed", calls,
-                     forEachFailingAllocation(use, check));
+  constexpr int Most = 3000;
+  int const allocations = forEachFailingAllocation(use, check, Most);
+  return fmt::format("{} calls and {}{} allocations failed", calls,
+                     allocations < Most ? "" : "the first ", allocations);
 }
 
 } // namespace Qv

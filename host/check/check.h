@@ -73,10 +73,13 @@ inline LiString const Unanswered("unanswered");
 /// Whatever a browser reads of an item.
 std::string read(BrBrowsable& item);
 
-/// Items of all schemes, level by level, and no more than can be checked in time.
-Items findItems();
+/// How many items are looked at in time, and how many while everything fails once.
+inline constexpr std::size_t MaxItems = 200;
+inline constexpr std::size_t MaxSweptItems = 30;
+/// Items of all schemes, level by level.
+Items findItems(std::size_t most = MaxItems);
 /// Calls `f` with each of them. @returns how many there were.
-std::string forEachItem(std::function<void(Item const&)> const& f);
+std::string forEachItem(std::function<void(Item const&)> const& f, std::size_t most = MaxItems);
 
 /// Runs `use` with each call of the host failing once, then with each allocation. The failure must
 /// come out, nothing may be lost, and the next run must return what the first one did.

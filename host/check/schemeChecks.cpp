@@ -138,12 +138,14 @@ void checkEquality(Item const& item) {
 
 std::string browse() {
   std::string result;
-  forEachItem([&](Item const& item) {
-    result += OPtr<BrServer>(item->getServer()->clone())->getSchemeName() + read(*item);
-    for (BrBrowsable::FindFilter const filter : {AllChildren, ItemsOnly})
-      for (Item const& child : nextSequence(*item->getChildren(filter)))
-        result += child->getPath();
-  });
+  forEachItem(
+      [&](Item const& item) {
+        result += OPtr<BrServer>(item->getServer()->clone())->getSchemeName() + read(*item);
+        for (BrBrowsable::FindFilter const filter : {AllChildren, ItemsOnly})
+          for (Item const& child : nextSequence(*item->getChildren(filter)))
+            result += child->getPath();
+      },
+      MaxSweptItems);
   return result;
 }
 
@@ -179,7 +181,9 @@ std::vector<Check> schemeChecks() {
        [] { return forEachItem(checkEquality); }},
       {"items.lifetimes", "What was browsed goes when it is let go.", "Lifetimes", checkLifetimes},
       {"items.failures", "A failure ends the browsing, loses nothing, and is not met again.",
-       "What may be thrown", [] { return sweepFailures(browse); }}};
+       "What may be thrown", [] {
+         return fmt::format("{}, with at most {} items", sweepFailures(browse), MaxSweptItems);
+       }}};
 }
 
 } // namespace Qv
