@@ -12,6 +12,7 @@ install(EXPORT QvPluginBrowser NAMESPACE QvPluginBrowser:: FILE QvPluginBrowserT
 install(EXPORT QvPluginBrowserBrowsing NAMESPACE QvPluginBrowser::
   FILE QvPluginBrowserBrowsingTargets.cmake DESTINATION ${config_dir} COMPONENT development)
 install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/docs/host-contract.md
+    ${PROJECT_SOURCE_DIR}/docs/json.md ${PROJECT_SOURCE_DIR}/docs/json.schema.json
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/qvbrowse COMPONENT runtime)
 
 # One package for users, one for developers of hosts and modules.

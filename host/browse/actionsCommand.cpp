@@ -6,23 +6,15 @@ namespace Qv {
 
 namespace {
 
-struct Options {
-  std::string scheme;
-  std::string path;
-};
-
-ExitStatus listActions(Options const& options, Output& output) {
+ExitStatus listActions(ItemArguments const& options, Session const& /*session*/, Output& output) {
   Json actions = Json::array();
-  for (OfferedAction const& action : getActions(findItem(options.scheme, options.path)))
+  for (OfferedAction const& action : getActions(findItems(options).front()))
     actions.push_back({{"name", action.name},
                        {"display", action.display},
                        {"valid", action.valid},
                        {"dynamicState", action.state},
                        {"options", action.options}});
-  output.printList(
-      actions, {"Action", "Valid", "Dynamic state"}, [](Json const& action) -> Output::Row {
-        return {action["name"], yesOrNo(action["valid"]), action["dynamicState"].dump()};
-      });
+  output.printList("actions", actions, {"name", "valid", "dynamicState"});
   return Success;
 }
 
@@ -31,8 +23,8 @@ ExitStatus listActions(Options const& options, Output& output) {
 void addActionsCommand(Program& program) {
   auto const [command, options] =
       program.addCommand("actions", "List the actions for an item", &listActions);
-  addScheme(command, options.scheme)->required();
-  addPath(command, options.path);
+  addScheme(program, command, options)->required();
+  addPath(command, options);
 }
 
 } // namespace Qv

@@ -1,30 +1,64 @@
 #include "arguments.h"
 
+#include "lookup.h"
+#include "piBrowserSchemes.h"
+#include "safeText.h"
+
+#include <algorithm>
+
 namespace Qv {
 
-CLI::Option* addScheme(CLI::App& command, std::string& scheme) {
-  return command.add_option("SCHEME", scheme, "The name of the scheme");
+namespace {
+
+CLI::Option* addPathOption(CLI::App& command, ItemArguments& arguments, char const* help) {
+  command.add_flag("--unlisted", arguments.unlisted, "Take a path even if no item of it is listed");
+  // As "extra arguments", "[a,b]" would be a list.
+  return command.add_option("PATH", arguments.paths, help)->allow_extra_args(false);
 }
 
-CLI::Option* addPath(CLI::App& command, std::string& path) {
-  return command.add_option("PATH", path, "The path of the item; \"\" is the root");
+} // namespace
+
+CLI::Option* addScheme(Program& program, CLI::App& command, ItemArguments& arguments) {
+  return command.add_option("SCHEME", arguments.scheme, "The name of the scheme")
+      ->each([&program](std::string const& scheme) {
+        if (scheme != PiBrowserSchemes::PluginToolScheme)
+          program.setPluginUse(PluginUse::None);
+      });
 }
 
-CLI::Option* addPaths(CLI::App& command, std::vector<std::string>& paths) {
-  // It takes all because it expects so many: as "extra arguments", "[a,b]" would be a list.
+void addPath(CLI::App& command, ItemArguments& arguments) {
+  addPathOption(command, arguments, "The path of the item; by default the root, \"\"")->expected(1);
+}
+
+void addPaths(CLI::App& command, ItemArguments& arguments) {
   constexpr int All = CLI::detail::expected_max_vector_size;
-  return command.add_option("PATH", paths, "The path of an item")
+  addPathOption(command, arguments, "The paths of items; \"\" is the root")
       ->expected(All, All)
-      ->allow_extra_args(false)
       ->take_all()
       ->required();
 }
 
-Items findItems(std::string const& scheme, std::vector<std::string> const& paths) {
+CLI::Option* addPathsFlag(CLI::App& command, bool& paths) {
+  return command.add_flag("--paths", paths, "Print paths alone, one a line")
+      ->excludes(command.get_parent()->get_option("--json"));
+}
+
+Items findItems(ItemArguments const& arguments) {
+  std::vector<std::string> paths = arguments.paths;
+  if (paths.empty())
+    paths.emplace_back();
+  std::transform(paths.begin(), paths.end(), paths.begin(), &unescaped);
+  if (!arguments.unlisted)
+    return findListedItems(*arguments.scheme, paths);
   Items items;
   for (std::string const& path : paths)
-    items.push_back(findItem(scheme, path));
+    items.push_back(findItem(*arguments.scheme, path));
   return items;
+}
+
+void printPath(BrBrowsable const& item, Output& output) {
+  if (std::string const path = item.getPath(); !path.empty())
+    output.print("{}\n", escaped(path));
 }
 
 } // namespace Qv

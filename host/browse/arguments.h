@@ -1,19 +1,31 @@
 #pragma once
 
 #include "items.h"
-
-#include <CLI/CLI.hpp>
+#include "program.h"
 
 namespace Qv {
 
-// Arguments that several commands take.
+/// Items as a user names them on the command line.
+struct ItemArguments {
+  std::optional<std::string> scheme;
+  /// As paths are written everywhere: with the escapes of escaped().
+  std::vector<std::string> paths;
+  /// Whether items may be named that no parent lists.
+  bool unlisted = false;
+};
 
-CLI::Option* addScheme(CLI::App& command, std::string& scheme);
-CLI::Option* addPath(CLI::App& command, std::string& path);
+CLI::Option* addScheme(Program& program, CLI::App& command, ItemArguments& arguments);
+/// One path, which may be left out for the root.
+void addPath(CLI::App& command, ItemArguments& arguments);
 /// One path or more.
-CLI::Option* addPaths(CLI::App& command, std::vector<std::string>& paths);
+void addPaths(CLI::App& command, ItemArguments& arguments);
+/// Whether paths alone are printed.
+CLI::Option* addPathsFlag(CLI::App& command, bool& paths);
 
-/// The items of a scheme at these paths. @throws what findItem() throws.
-Items findItems(std::string const& scheme, std::vector<std::string> const& paths);
+/// @throws what findItem() and findListedItems() throw.
+Items findItems(ItemArguments const& arguments);
+
+/// Prints the item's path as a line that can be an argument again.
+void printPath(BrBrowsable const& item, Output& output);
 
 } // namespace Qv

@@ -77,7 +77,6 @@ ExitStatus checkModule(Options const& options, std::optional<fs::path> const& mo
   setenv("QV_MODULE", module ? module->c_str() : "", 1);
 
   Json checks = listChecks(options.only);
-  std::vector<Output::Row> rows;
   std::string problems;
   std::string needed;
   for (Json& check : checks) {
@@ -87,22 +86,19 @@ ExitStatus checkModule(Options const& options, std::optional<fs::path> const& mo
       make(check, options.seconds);
     else
       check.update({{"result", "skipped"}, {"happened", "it needs " + needed}});
-    rows.push_back({name, check["result"], check["happened"]});
     if (check["result"] != "fail")
       continue;
-    problems += fmt::format("\n{}\n  expected: {}\n  happened: {}\n  see:      {}\n", name,
-                            check["expected"].get<std::string>(), escaped(check["happened"]),
-                            check["see"].get<std::string>());
+    problems +=
+        fmt::format("\n{}\n  expected: {}\n  happened: {}\n  see:      {}\n", name,
+                    check["expected"].get<std::string>(),
+                    escaped(check["happened"].get<std::string>()), check["see"].get<std::string>());
     // A module that does not start cannot be asked for more.
     if (name.starts_with("file.") || name == "start.initialises")
       needed = name;
   }
-  if (output.isJson())
-    output.printJson({{"checks", checks}});
-  else {
-    output.printTable({"Check", "Result", "What happened"}, std::move(rows));
+  output.printList("checks", checks, {"check", "result", "happened"});
+  if (!output.isJson())
     output.write(problems);
-  }
   return problems.empty() ? Success : Failure;
 }
 
@@ -110,8 +106,8 @@ ExitStatus checkModule(Options const& options, std::optional<fs::path> const& mo
 
 void addCheckCommand(Program& program) {
   auto const options = std::make_shared<Options>();
-  CLI::App& command =
-      program.addCommand("check", "Check the module for what is wrong with it", Program::Command());
+  CLI::App& command = program.addCommand("check", "Check the module for what is wrong with it",
+                                         PluginUse::None, Program::Command());
   command.callback([&program, options] {
     program.runWithoutSession([&program, options](Output& output) {
       return checkModule(*options, program.getSessionOptions().module, output);

@@ -1,15 +1,14 @@
 #include "arguments.h"
 #include "commands.h"
-#include "detailOutput.h"
 #include "safeText.h"
+#include "values.h"
 
 namespace Qv {
 
 namespace {
 
 struct Options {
-  std::string scheme;
-  std::vector<std::string> paths;
+  ItemArguments items;
   bool dump = false;
 };
 
@@ -18,47 +17,42 @@ void printWidget(Json const& widget, std::string const& indent, Output& output) 
                                  widget["name"].get<std::string>());
   for (auto const& [key, value] : widget.items())
     if (key != "class" && key != "name" && key != "children")
-      line += fmt::format(" {}={}", key,
-                          escaped(value.dump(-1, ' ', false, Json::error_handler_t::replace)));
-  output.print("{}\n", line);
+      line +=
+          fmt::format(" {}={}", key, value.dump(-1, ' ', false, Json::error_handler_t::replace));
+  output.print("{}\n", escaped(line));
   for (Json const& child : widget["children"])
     printWidget(child, indent + "  ", output);
 }
 
-ExitStatus showDetail(Options const& options, Output& output) {
-  Items const items = findItems(options.scheme, options.paths);
+ExitStatus showDetail(Options const& options, Session const& session, Output& output) {
+  Items const items = findItems(options.items);
   std::optional<DetailPage> page;
   for (RCShdPtr<BrBrowsable> const& item : items)
     if (!page)
       page = DetailPage::create(item);
   if (!page) {
     output.printProblem(
-        fmt::format("the scheme \"{}\" has no detail view for these items", options.scheme));
+        fmt::format("the scheme \"{}\" has no detail view for these items", *options.items.scheme));
     return Failure;
   }
 
   Json shown = Json::array();
   for (RCShdPtr<BrBrowsable> const& item : items) {
-    DetailPage::Content const content = page->show(item);
-    Json widgets = Json::array();
+    Json& json = shown.emplace_back(toJson(*item));
+    addDetail(json, item, session, page);
     if (options.dump)
       for (Widget const& widget : page->getWidgets())
-        widgets.push_back(toJson(widget));
-    if (output.isJson()) {
-      Json& json = shown.emplace_back(Json{{"path", item->getPath()}});
-      json.update(toJson(content));
-      if (options.dump)
-        json["widgets"] = widgets;
+        json["widgets"].push_back(toJson(widget));
+    if (output.isJson())
       continue;
-    }
-    output.print("{}\"{}\"{}\n", &item == &items.front() ? "" : "\n", escaped(item->getPath()),
-                 content.understood ? "" : " (not understood by the view)");
-    print(content, output);
-    for (Json const& widget : widgets)
-      printWidget(widget, "", output);
+    output.print("{}\"{}\"\n", &item == &items.front() ? "" : "\n", escaped(item->getPath()));
+    printDetail(json, output);
+    if (options.dump)
+      for (Json const& widget : json["widgets"])
+        printWidget(widget, "", output);
   }
   if (output.isJson())
-    output.printJson(shown);
+    output.printJson({{"items", shown}});
   return Success;
 }
 
@@ -67,8 +61,8 @@ ExitStatus showDetail(Options const& options, Output& output) {
 void addDetailCommand(Program& program) {
   auto const [command, options] = program.addCommand(
       "detail", "Show items on one detail page, one after the other", &showDetail);
-  addScheme(command, options.scheme)->required();
-  addPaths(command, options.paths);
+  addScheme(program, command, options.items)->required();
+  addPaths(command, options.items);
   command.add_flag("--dump", options.dump, "Show the widgets as well");
 }
 

@@ -1,7 +1,7 @@
 #include "arguments.h"
 #include "commands.h"
 #include "dragging.h"
-#include "safeText.h"
+#include "values.h"
 
 #include <sstream>
 
@@ -10,59 +10,43 @@ namespace Qv {
 namespace {
 
 struct Options {
-  std::string scheme;
-  std::vector<std::string> paths;
+  ItemArguments items;
+  bool dump = false;
 };
 
-Json toJson(std::string const& path, Drag const& drag) {
-  if (drag.handler.empty())
-    return {{"path", path}, {"handler", nullptr}, {"accepted", false}};
-  Json json = {{"path", path},    {"handler", drag.handler}, {"accepted", drag.accepted},
-               {"cut", drag.cut}, {"copy", drag.copy},       {"drop", drag.drop}};
-  if (drag.accepted)
-    json["items"] = Json::array();
-  for (Drag::Arrival const& arrival : drag.arrivals)
-    json["items"].push_back({{"arrives", arrival.what}, {"dump", arrival.dump}});
-  return json;
-}
-
-void print(std::string const& path, Drag const& drag, Output& output) {
-  output.print("\"{}\"\n", escaped(path));
-  if (drag.handler.empty())
-    return output.print("  handler: none\n");
-  output.print("  handler: {}\n  accepted: {}, cut: {}, copy: {}, drop: {}\n", drag.handler,
-               yesOrNo(drag.accepted), yesOrNo(drag.cut), yesOrNo(drag.copy), yesOrNo(drag.drop));
-  if (drag.accepted && drag.arrivals.empty())
-    output.print("  arrives: nothing\n");
-  for (Drag::Arrival const& arrival : drag.arrivals) {
-    output.print("  arrives: {}\n", escaped(arrival.what));
-    std::istringstream lines(arrival.dump);
-    for (std::string line; std::getline(lines, line);)
-      output.print("  {}\n", escaped(line));
-  }
-}
-
-ExitStatus dragItems(Options const& options, Output& output) {
+ExitStatus dragItems(Options const& options, Session const& /*session*/, Output& output) {
   Json drags = Json::array();
   std::vector<std::string> refused;
   // All paths are looked up before the first item is dragged.
-  for (RCShdPtr<BrBrowsable> const& item : findItems(options.scheme, options.paths)) {
+  for (RCShdPtr<BrBrowsable> const& item : findItems(options.items)) {
     Drag const dragged = drag(item);
-    std::string const path = item->getPath();
+    Json& json = drags.emplace_back(toJson(*item));
+    if (options.dump)
+      json["dump"] = Json::array();
+    json.update({{"handler", dragged.handler.empty() ? Json(nullptr) : Json(dragged.handler)},
+                 {"accepted", dragged.accepted},
+                 {"cut", dragged.cut},
+                 {"copy", dragged.copy},
+                 {"drop", dragged.drop},
+                 {"arrives", Json::array()}});
+    for (auto const& [what, dump, view] : dragged.arrivals) {
+      json["arrives"].push_back(what);
+      std::istringstream lines(dump);
+      for (std::string line; options.dump && std::getline(lines, line);)
+        json["dump"].push_back(line);
+    }
     if (!dragged.accepted)
-      refused.push_back("\"" + path + "\"");
-    if (output.isJson())
-      drags.push_back(toJson(path, dragged));
-    else
-      print(path, dragged, output);
+      refused.push_back("\"" + item->getPath() + "\"");
   }
-  if (output.isJson())
-    output.printJson(drags);
+  Output::Keys columns = {"path", "handler", "accepted", "cut", "copy", "drop", "arrives"};
+  if (options.dump)
+    columns.push_back("dump");
+  output.printList("items", drags, columns);
   if (refused.empty())
     return Success;
   output.finish();
-  output.printProblem(fmt::format("cannot be dragged out of the scheme \"{}\": {}", options.scheme,
-                                  fmt::join(refused, ", ")));
+  output.printProblem(fmt::format("cannot be dragged out of the scheme \"{}\": {}",
+                                  *options.items.scheme, fmt::join(refused, ", ")));
   return Failure;
 }
 
@@ -71,8 +55,9 @@ ExitStatus dragItems(Options const& options, Output& output) {
 void addDragCommand(Program& program) {
   auto const [command, options] =
       program.addCommand("drag", "Drag items out of the browser", &dragItems);
-  addScheme(command, options.scheme)->required();
-  addPaths(command, options.paths);
+  addScheme(program, command, options.items)->required();
+  addPaths(command, options.items);
+  command.add_flag("--dump", options.dump, "Show what the dropped items tell of themselves");
 }
 
 } // namespace Qv

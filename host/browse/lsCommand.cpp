@@ -1,6 +1,7 @@
 #include "arguments.h"
 #include "commands.h"
 #include "listing.h"
+#include "values.h"
 
 #include <algorithm>
 
@@ -9,35 +10,43 @@ namespace Qv {
 namespace {
 
 struct Options {
-  std::string scheme;
-  std::string path;
+  ItemArguments items;
   std::string filter;
   bool unsorted = false;
+  bool paths = false;
 };
 
-ExitStatus listChildren(Options const& options, Output& output) {
-  RCShdPtr<BrBrowsable> const item = findItem(options.scheme, options.path);
-  Listing listing =
-      listChildren(*item, options.filter == "items" ? ItemsOnly : AllChildren, !options.unsorted);
+void printTable(Listing listing, Output& output) {
   Output::Row titles;
   for (RCShdPtr<BrAttrib> const& column : listing.columns)
     titles.push_back(column->getName());
-
-  if (output.isJson()) {
-    Json json = Json::array();
-    for (auto const& [child, cells] : listing.rows) {
-      Json& row = json.emplace_back(Json::object());
-      row["path"] = child->getPath();
-      for (std::size_t column = 0; column < titles.size(); ++column)
-        row["columns"][titles[column]] = cells[column];
-    }
-    output.printJson(json);
-  } else {
-    std::vector<Output::Row> rows;
-    for (Listing::Row& row : listing.rows)
-      rows.push_back(std::move(row.cells));
-    output.printTable(titles, std::move(rows));
+  bool const named = std::all_of(listing.rows.begin(), listing.rows.end(),
+                                 [](Listing::Row const& row) { return showsPath(*row.item); });
+  if (!named)
+    titles.emplace_back("Path");
+  std::vector<Output::Row> rows;
+  for (Listing::Row& row : listing.rows) {
+    Output::Row& cells = rows.emplace_back(std::move(row.cells));
+    if (!named)
+      cells.push_back(row.item->getPath());
   }
+  output.printTable(titles, std::move(rows));
+}
+
+ExitStatus listChildren(Options const& options, Session const& /*session*/, Output& output) {
+  RCShdPtr<BrBrowsable> const item = findItems(options.items).front();
+  Listing listing =
+      listChildren(*item, options.filter == "items" ? ItemsOnly : AllChildren, !options.unsorted);
+  Json json = Json::array();
+  for (Listing::Row const& row : listing.rows)
+    if (options.paths)
+      printPath(*row.item, output);
+    else if (output.isJson())
+      json.push_back(toJson(*row.item));
+  if (output.isJson())
+    output.printJson({{"items", json}});
+  else if (!options.paths)
+    printTable(std::move(listing), output);
   return Success;
 }
 
@@ -46,12 +55,12 @@ ExitStatus listChildren(Options const& options, Output& output) {
 void addLsCommand(Program& program) {
   auto const [command, options] =
       program.addCommand("ls", "List the children of an item", &listChildren);
-  addScheme(command, options.scheme)->required();
-  addPath(command, options.path);
+  addScheme(program, command, options.items)->required();
+  addPath(command, options.items);
+  addPathsFlag(command, options.paths);
   command.add_flag("--unsorted", options.unsorted, "Keep the order of the scheme");
   command
-      .add_option("--filter", options.filter,
-                  "Which children: all, or those at the scheme's item depth")
+      .add_option("--filter", options.filter, "All children, or those at the scheme's item depth")
       ->check(CLI::IsMember({"all", "items"}))
       ->option_text("all|items");
 }

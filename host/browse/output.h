@@ -1,39 +1,42 @@
 #pragma once
 
-#include "json.h"
 #include "pager.h"
 #include "progress.h"
 
 #include <fmt/color.h>
-#include <functional>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 namespace Qv {
 
-/// What is at the other end of the standard output.
-struct Terminal {
-  static Terminal ofStandardOutput();
-
-  /// Whether it is a terminal at all.
-  bool present;
-  /// Never where NO_COLOR is set.
-  bool colours;
-};
+/// Keeps its members in the order in which they were added.
+using Json = nlohmann::ordered_json;
 
 /// Where a command writes its result: the standard output, through a pager where there is one.
 /// Until then, a progress line says what is under way. What cannot be written throws
 /// std::runtime_error.
+///
+/// A command describes its result as JSON, from which tables are made as well: a column or a
+/// property is the key of a value, which is also its heading.
 class Output {
 public:
   using Row = std::vector<std::string>;
+  using Keys = std::vector<char const*>;
 
-  /// @param json whether commands write JSON, and without a pager then.
-  Output(Terminal terminal, bool json, bool paged);
+  struct Options {
+    /// Whether commands write JSON, and without a pager then.
+    bool json = false;
+    bool noPager = false;
+    /// "always", "never" or "auto": on a terminal that has them, unless NO_COLOR is set.
+    std::string color = "auto";
+  };
+
+  explicit Output(Options const& options);
 
   bool isJson() const { return json_; }
 
-  void setProgress(std::string const& text) { progress_.set(text); }
+  void setProgress(std::string const& text);
   /// Reports on stderr what went wrong, beside the progress line.
   void printProblem(std::string const& problem);
 
@@ -41,13 +44,16 @@ public:
   template <class... Args> void print(fmt::format_string<Args...> format, Args const&... values) {
     write(fmt::vformat(format, fmt::make_format_args(values...)));
   }
-  /// Bytes that are not UTF-8 are replaced: names come from files.
-  void printJson(Json const& json);
+  /// Prints an object, with the version of the format. Bytes that are not UTF-8 are replaced: names
+  /// come from files.
+  void printJson(Json members);
   /// Prints aligned columns under a heading. A cell holds any characters.
   void printTable(Row const& heading, std::vector<Row> rows);
-  /// Prints the elements of an array: as JSON, or as a table with one row for each.
-  void printList(Json const& elements, Row const& heading,
-                 std::function<Row(Json const&)> const& describe);
+  void printTable(Keys const& columns, Json const& elements);
+  /// Prints an array: as JSON under `name`, or as a table.
+  void printList(char const* name, Json elements, Keys const& columns);
+  /// Prints the members of an object and of objects in it.
+  void printProperties(Json const& object);
 
   /// The text in a style, or as it is where there are no colours.
   std::string styled(fmt::text_style style, std::string const& text) const;
@@ -58,9 +64,10 @@ public:
 private:
   void begin();
 
-  Terminal terminal_;
   bool json_;
   bool paged_;
+  bool coloured_;
+  std::size_t width_;
   bool begun_ = false;
   std::unique_ptr<Pager> pager_;
   Progress progress_;
@@ -68,7 +75,5 @@ private:
 
 /// Reports on stderr what went wrong.
 void printProblem(std::string const& problem);
-
-inline char const* yesOrNo(bool value) { return value ? "yes" : "no"; }
 
 } // namespace Qv

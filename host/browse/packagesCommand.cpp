@@ -8,7 +8,7 @@ namespace Qv {
 
 namespace {
 
-ExitStatus showPackages(Output& output, Session const& /*session*/) {
+ExitStatus showPackages(Session const& /*session*/, Output& output) {
   HostPackageManager const& manager = HostPackageManager::getInstance();
   Json packages = Json::array();
   for (InPackageInit const* const package : manager.getPackages()) {
@@ -37,16 +37,10 @@ ExitStatus showPackages(Output& output, Session const& /*session*/) {
     return Success;
   }
 
-  output.printList(packages, {"Package", "Depends on"}, [](Json const& package) -> Output::Row {
-    std::vector<std::string> const dependencies = package["dependencies"];
-    return {package["package"], fmt::format("{}", fmt::join(dependencies, ", "))};
-  });
+  output.printTable({"package", "dependencies"}, packages);
   for (Json const& info : infos) {
     output.print("\n");
-    std::vector<Output::Row> rows;
-    for (auto const& [name, value] : info.items())
-      rows.push_back({name, value.is_string() ? value.get<std::string>() : value.dump()});
-    output.printTable({"Build information", ""}, std::move(rows));
+    output.printProperties(info);
   }
   return Success;
 }
@@ -54,7 +48,8 @@ ExitStatus showPackages(Output& output, Session const& /*session*/) {
 } // namespace
 
 void addPackagesCommand(Program& program) {
-  program.addCommand("packages", "Show the packages and their build information", &showPackages);
+  program.addCommand("packages", "Show the packages and their build information", PluginUse::None,
+                     &showPackages);
 }
 
 } // namespace Qv

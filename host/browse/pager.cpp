@@ -3,43 +3,32 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <stdexcept>
-#include <sys/wait.h>
 #include <system_error>
-#include <utility>
 
 namespace Qv {
 
-namespace {
-
-/// The statuses of a shell that cannot run a program or does not find it.
-constexpr int NotRun = 126;
-constexpr int NotFound = 127;
-
-} // namespace
-
 std::unique_ptr<Pager> Pager::start() {
   char const* const named = std::getenv("PAGER");
-  std::string command =
-      named ? named : "if command -v less >/dev/null; then exec less; else exec cat; fi";
+  std::string const command =
+      named ? named : "if command -v less >/dev/null; then less; else cat; fi";
   if (command.empty())
     return nullptr;
+  // The shell outlives an interrupt, which is for the pager. One that cannot be run has read
+  // nothing.
+  std::string const line = "trap : INT QUIT\n" + command + "\ncase $? in 126 | 127) cat ;; esac";
   // Ends by itself when all fits on the screen, passes colours on and leaves the text there.
   setenv("LESS", "FRX", 0);
-  FILE* const stream = popen(command.c_str(), "we");
-  return stream ? std::make_unique<Pager>(std::move(command), stream) : nullptr;
+  FILE* const stream = popen(line.c_str(), "we");
+  return stream ? std::make_unique<Pager>(stream) : nullptr;
 }
 
-Pager::Pager(std::string command, FILE* stream) : command_(std::move(command)), stream_(stream) {
+Pager::Pager(FILE* stream) : stream_(stream) {
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGINT, SIG_IGN);
   std::signal(SIGQUIT, SIG_IGN);
 }
 
-Pager::~Pager() {
-  if (stream_)
-    pclose(stream_);
-}
+Pager::~Pager() { pclose(stream_); }
 
 void Pager::write(std::string const& text) {
   if (left_ || std::fwrite(text.data(), 1, text.size(), stream_) == text.size())
@@ -49,12 +38,6 @@ void Pager::write(std::string const& text) {
   left_ = true;
   std::signal(SIGINT, SIG_DFL);
   std::signal(SIGQUIT, SIG_DFL);
-}
-
-void Pager::finish() {
-  int const status = pclose(std::exchange(stream_, nullptr));
-  if (WIFEXITED(status) && (WEXITSTATUS(status) == NotRun || WEXITSTATUS(status) == NotFound))
-    throw std::runtime_error("cannot run the pager \"" + command_ + "\"; set PAGER to another one");
 }
 
 } // namespace Qv

@@ -10,12 +10,12 @@ namespace Qv {
 /// interrupts are for the pager alone.
 class Pager {
 public:
-  /// Runs the command that PAGER names, or less where it is not set. Null when PAGER is empty or no
-  /// process can be started.
+  /// Runs the command that PAGER names, or less where it is not set; what cannot be run passes the
+  /// output on as it is. Null when PAGER is empty or no process can be started.
   static std::unique_ptr<Pager> start();
 
   /// @param stream is owned, as popen() returns it.
-  Pager(std::string command, FILE* stream);
+  explicit Pager(FILE* stream);
   Pager(Pager const&) = delete;
   Pager& operator=(Pager const&) = delete;
   /// Waits until the user has left the pager.
@@ -24,11 +24,8 @@ public:
   /// What is written after the user has left the pager is lost. @throws std::system_error when
   /// writing fails.
   void write(std::string const& text);
-  /// Waits until the user has left the pager. @throws std::runtime_error when it could not be run.
-  void finish();
 
 private:
-  std::string command_;
   FILE* stream_;
   bool left_ = false;
 };

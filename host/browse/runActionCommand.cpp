@@ -8,19 +8,15 @@ namespace {
 
 struct Options {
   std::string action;
-  std::string scheme;
-  std::string path;
+  ItemArguments items;
 };
 
-ExitStatus runAction(Options const& options, Output& output) {
+ExitStatus runAction(Options const& options, Session const& /*session*/, Output& output) {
   Json opened = Json::array();
-  for (auto const& [view, newWindow, flag] :
-       performAction(options.action, findItem(options.scheme, options.path)))
-    opened.push_back({{"view", view}, {"newWindow", newWindow}, {"flag", flag}});
-  output.printList(opened, {"Opened view", "In", "Flag"}, [](Json const& view) -> Output::Row {
-    return {view["view"], view["newWindow"] ? "new window" : "window",
-            view["newWindow"] ? "" : view["flag"].dump()};
-  });
+  for (RCShdPtr<BrBrowsable> const& item : findItems(options.items))
+    for (auto const& [view, newWindow, flag] : performAction(options.action, item))
+      opened.push_back({{"view", view}, {"newWindow", newWindow}, {"flag", flag}});
+  output.printList("opened", opened, {"view", "newWindow", "flag"});
   return Success;
 }
 
@@ -28,10 +24,10 @@ ExitStatus runAction(Options const& options, Output& output) {
 
 void addRunActionCommand(Program& program) {
   auto const [command, options] =
-      program.addCommand("run-action", "Perform an action on an item", &runAction);
+      program.addCommand("run-action", "Perform an action on items", &runAction);
   command.add_option("NAME", options.action, "The name of the action")->required();
-  addScheme(command, options.scheme)->required();
-  addPath(command, options.path)->required();
+  addScheme(program, command, options.items)->required();
+  addPaths(command, options.items);
 }
 
 } // namespace Qv

@@ -14,7 +14,7 @@ std::string attributeName(unsigned int attributeId) {
   auto const found =
       std::find_if(attributes.begin(), attributes.end(),
                    [&](Attribute const& attribute) { return attribute.id == attributeId; });
-  return found == attributes.end() ? std::to_string(attributeId) : found->name;
+  return found == attributes.end() ? fmt::format("attribute {}", attributeId) : found->name;
 }
 
 std::string dataTypeName(unsigned int dataType) {
@@ -22,58 +22,55 @@ std::string dataTypeName(unsigned int dataType) {
     return "icon";
   if (dataType == BrBrowsable::STRING)
     return "string";
-  return std::to_string(dataType);
+  return fmt::format("data type {}", dataType);
 }
 
 Json describe(BrAttrib const& column, BrAttribList const& list) {
   Json flags = Json::array();
+  // Only the host knows what its numbers stand for.
   for (BrAttrib::AttribAttributes const flag : column.getAttributes())
-    flags.push_back(int(flag));
+    flags.push_back(fmt::format("AttribAttributes({})", int(flag)));
   return {{"title", column.getName()},
           {"attribute", attributeName(column.getAttributeId())},
           {"dataType", dataTypeName(column.getDataType())},
           {"minimumWidth", column.getMinW()},
           {"maximumWidth", column.getMaxW()},
           {"currentWidth", column.getCurrentW()},
-          {"attributes", flags},
+          {"flags", flags},
           {"shown", column.isDisplayed()},
           {"sortKey", list.getSortKey() == int(column.getAttributeId())},
           {"auxFlag", column.auxFlag},
           {"auxText", column.auxText}};
 }
 
-ExitStatus showSchemes(Output& output, Session const& /*session*/) {
+ExitStatus showSchemes(Session const& /*session*/, Output& output) {
   Json schemes = Json::array();
+  Json rows = Json::array();
   for (OPtr<BrServer> const& server : HostBrRegistry::getInstance().getServers()) {
     RCShdPtr<BrAttribList> const list = server->getAttributesList();
-    Json columns = Json::array();
-    for (RCShdPtr<BrAttrib> const& column : list->getAttribs())
-      columns.push_back(describe(*column, *list));
-    schemes.push_back({{"scheme", server->getSchemeName()},
-                       {"observable", server->isObservable()},
-                       {"columns", columns}});
+    Json& scheme = schemes.emplace_back(Json{{"scheme", server->getSchemeName()},
+                                             {"observable", server->isObservable()},
+                                             {"columns", Json::array()}});
+    for (RCShdPtr<BrAttrib> const& column : list->getAttribs()) {
+      scheme["columns"].push_back(describe(*column, *list));
+      rows.push_back(scheme["columns"].back());
+      rows.back()["scheme"] = scheme["scheme"];
+    }
   }
-  if (output.isJson()) {
-    output.printJson(schemes);
-    return Success;
-  }
-
-  std::vector<Output::Row> rows;
-  for (Json const& scheme : schemes)
-    for (Json const& column : scheme["columns"])
-      rows.push_back({scheme["scheme"], column["title"], column["attribute"], column["dataType"],
-                      fmt::format("{} to {}, now {}", column["minimumWidth"].dump(),
-                                  column["maximumWidth"].dump(), column["currentWidth"].dump()),
-                      yesOrNo(column["shown"]), yesOrNo(column["sortKey"])});
-  output.printTable({"Scheme", "Title", "Attribute", "Data type", "Width", "Shown", "Sort key"},
-                    std::move(rows));
+  if (output.isJson())
+    output.printJson({{"schemes", schemes}});
+  else
+    output.printTable({"scheme", "title", "attribute", "dataType", "minimumWidth", "maximumWidth",
+                       "currentWidth", "shown", "sortKey"},
+                      rows);
   return Success;
 }
 
 } // namespace
 
 void addSchemesCommand(Program& program) {
-  program.addCommand("schemes", "Show the schemes and their columns", &showSchemes);
+  program.addCommand("schemes", "Show the schemes and their columns", PluginUse::None,
+                     &showSchemes);
 }
 
 } // namespace Qv

@@ -1,50 +1,58 @@
 #include "arguments.h"
 #include "commands.h"
 #include "search.h"
+#include "values.h"
+
+#include <array>
 
 namespace Qv {
 
 namespace {
 
 struct Options {
-  std::string scheme;
+  ItemArguments items;
   std::string text;
+  bool paths = false;
 };
 
-char const* nameOf(Search::Match match) {
-  if (match == Search::Match::Exact)
-    return "exact";
-  return match == Search::Match::Prefix ? "prefix" : "substring";
-}
+constexpr std::array Places = {"name", "label", "detail", "tooltip"};
+constexpr std::array Matches = {"exact", "prefix", "substring"};
 
-ExitStatus searchItems(Options const& options, Output& output) {
-  Search search(*findItem(options.scheme, ""), options.text);
+ExitStatus searchItems(Options const& options, Session const& /*session*/, Output& output) {
+  Search search(*findItem(*options.items.scheme, ""), options.text);
   while (search.step())
     continue;
-  Json result = Json::array();
-  for (auto const& [match, label, type, path] : search.getResult())
-    result.push_back({{"name", label}, {"type", type}, {"path", path}, {"match", nameOf(match)}});
-  if (!result.empty() || output.isJson())
-    output.printList(result, {"Type", "Name", "Path"}, [](Json const& item) -> Output::Row {
-      return {item["type"], item["name"], item["path"]};
-    });
+  std::vector<Search::Found> const result = search.getResult();
+  Json items = Json::array();
+  for (auto const& [item, place, match, title, text] : result) {
+    if (options.paths)
+      printPath(*item, output);
+    items.push_back(toJson(*item));
+    items.back().update({{"match", Matches[std::size_t(match)]},
+                         {"in", Places[std::size_t(place)]},
+                         {"field", place == Search::Place::Detail ? Json(title) : Json(nullptr)},
+                         {"text", text}});
+  }
+  if (!options.paths && (!result.empty() || output.isJson()))
+    output.printList("items", items, {"type", "name", "path", "in", "field", "text"});
   if (!result.empty())
     return Success;
   output.finish();
-  output.printProblem(fmt::format("no name or label in the scheme \"{}\" contains \"{}\"",
-                                  options.scheme, options.text));
+  output.printProblem(fmt::format("no name or text in the scheme \"{}\" contains \"{}\"",
+                                  *options.items.scheme, options.text));
   return Failure;
 }
 
 } // namespace
 
 void addSearchCommand(Program& program) {
-  auto const [command, options] = program.addCommand(
-      "search", "Find the items of a scheme whose name or label contains a text", &searchItems);
-  addScheme(command, options.scheme)->required();
+  auto const [command, options] =
+      program.addCommand("search", "Find items by name or by any text shown of them", &searchItems);
+  addScheme(program, command, options.items)->required();
   command.add_option("TEXT", options.text, "The text, in upper or lower case")
       ->required()
       ->check([](std::string const& text) { return text.empty() ? "the text is empty" : ""; });
+  addPathsFlag(command, options.paths);
 }
 
 } // namespace Qv

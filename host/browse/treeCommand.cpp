@@ -2,20 +2,20 @@
 #include "commands.h"
 #include "hostBrRegistry.h"
 #include "safeText.h"
+#include "values.h"
 
 namespace Qv {
 
 namespace {
 
-/// Walks through trees, down to a depth.
+/// Walks through trees, down to a depth, and prints lines or, if only asked for them, paths.
 class TreeWalk {
 public:
-  TreeWalk(std::optional<int> depth, Output& output) : depth_(depth), output_(output) {}
+  TreeWalk(std::optional<int> depth, bool paths, Output& output)
+      : depth_(depth), paths_(paths), output_(output) {}
 
   Json collect(BrBrowsable& item, int level = 0) const {
-    Json json = {{"name", getAttribute(item, BrBrowsable::NAME)},
-                 {"type", getAttribute(item, BrBrowsable::BROWSABLE_TYPE)},
-                 {"path", item.getPath()}};
+    Json json = toJson(item);
     if (goesBelow(item, level)) {
       Json& children = json["children"] = Json::array();
       for (RCShdPtr<BrBrowsable> const& child : getChildren(item))
@@ -34,17 +34,17 @@ private:
     return (!depth_ || level < *depth_) && hasChildren(item);
   }
 
-  /// Prints the path as well where it does not end in the name.
+  /// Prints the path as well where it does not end in the name, or alone.
   void printLine(BrBrowsable& item) const {
+    if (paths_)
+      return printPath(item, output_);
     auto const style = item.isAContainer() ? fg(fmt::terminal_color::blue) | fmt::emphasis::bold
                                            : fmt::text_style();
     std::string const name = getAttribute(item, BrBrowsable::NAME);
     std::string const type = "[" + getAttribute(item, BrBrowsable::BROWSABLE_TYPE) + "]";
-    std::string const path = item.getPath();
-    bool const named = path.empty() || path == name || path.ends_with("/" + name);
     output_.print("{}  {}{}\n", output_.styled(style, escaped(name)),
                   output_.styled(fmt::emphasis::faint, escaped(type)),
-                  named ? "" : "  " + escaped(path));
+                  showsPath(item) ? "" : "  " + escaped(item.getPath()));
   }
 
   void printBelow(BrBrowsable& item, std::string const& indent, int level) const {
@@ -53,43 +53,40 @@ private:
     Items const children = getChildren(item);
     for (RCShdPtr<BrBrowsable> const& child : children) {
       bool const last = &child == &children.back();
-      output_.print("{}{}", indent, last ? "└── " : "├── ");
+      if (!paths_)
+        output_.print("{}{}", indent, last ? "└── " : "├── ");
       printLine(*child);
       printBelow(*child, indent + (last ? "    " : "│   "), level + 1);
     }
   }
 
   std::optional<int> depth_;
+  bool paths_;
   Output& output_;
 };
 
 struct Options {
-  std::optional<std::string> scheme;
-  std::string path;
+  ItemArguments items;
   std::optional<int> depth;
+  bool paths = false;
 };
 
-ExitStatus showTree(Options const& options, Output& output) {
-  TreeWalk const walk(options.depth, output);
-  if (options.scheme) {
-    RCShdPtr<BrBrowsable> const item = findItem(*options.scheme, options.path);
-    if (output.isJson())
-      output.printJson(walk.collect(*item));
-    else
-      walk.print(*item);
-    return Success;
-  }
-
+ExitStatus showTree(Options const& options, Session const& /*session*/, Output& output) {
+  TreeWalk const walk(options.depth, options.paths, output);
+  Items roots;
+  if (options.items.scheme)
+    roots = findItems(options.items);
+  else
+    for (OPtr<BrServer> const& server : HostBrRegistry::getInstance().getServers())
+      roots.push_back(server->getRootNode()->getBrowsable());
   Json trees = Json::array();
-  for (OPtr<BrServer> const& server : HostBrRegistry::getInstance().getServers()) {
-    RCShdPtr<BrBrowsable> const root = server->getRootNode()->getBrowsable();
+  for (RCShdPtr<BrBrowsable> const& root : roots)
     if (output.isJson())
       trees.push_back(walk.collect(*root));
     else
       walk.print(*root);
-  }
   if (output.isJson())
-    output.printJson(trees);
+    output.printJson({{"items", trees}});
   return Success;
 }
 
@@ -97,13 +94,15 @@ ExitStatus showTree(Options const& options, Output& output) {
 
 void addTreeCommand(Program& program) {
   auto const [command, options] =
-      program.addCommand("tree", "Show the tree below an item, or those of all schemes", &showTree);
-  command.add_option("SCHEME", options.scheme, "The name of the scheme");
-  addPath(command, options.path);
+      program.addCommand("tree", "Show the tree below an item, or of all schemes", &showTree);
+  CLI::Option* const scheme = addScheme(program, command, options.items);
+  addPath(command, options.items);
+  addPathsFlag(command, options.paths)->needs(scheme);
   command.add_option("--depth", options.depth, "How many levels below the item")
       ->check(CLI::Range(0, 1000))
       ->option_text("N");
-  program.setDefault([](Output& output, Session const&) { return showTree({}, output); });
+  program.setDefault(
+      [](Session const& session, Output& output) { return showTree({}, session, output); });
 }
 
 } // namespace Qv

@@ -2,7 +2,10 @@
 
 #include "brBrowser.h"
 #include "hostActRegistry.h"
+#include "hostError.h"
 #include "snItemBasic.h"
+
+#include <fmt/format.h>
 
 namespace Qv {
 
@@ -24,18 +27,26 @@ std::vector<OfferedAction> getActions(RCShdPtr<BrBrowsable> const& item) {
     actions.push_back({action->getName(),
                        action->getDisplayString(),
                        HostActRegistry::isValid(*action, browser, node),
-                       state,
+                       fmt::format("DynamicState({})", int(state)),
                        {options.begin(), options.end()}});
   }
   return actions;
 }
 
 std::vector<HostWorkspace::Request> performAction(std::string const& name,
-                                                  RCShdPtr<BrBrowsable> const& item) {
-  RCShdPtr<HostWorkspace> const workspace(new HostWorkspace);
+                                                  RCShdPtr<BrBrowsable> const& item,
+                                                  RCShdPtr<HostWorkspace> const& workspace) {
   HostWorkspace::setCurrent(workspace);
-  HostActRegistry::getInstance().perform(name, input(RCShdPtr<BrBrowser>(new BrBrowser)),
-                                         input(BrNode::create(item)));
+  try {
+    HostActRegistry::getInstance().perform(name, input(RCShdPtr<BrBrowser>(new BrBrowser)),
+                                           input(BrNode::create(item)));
+  } catch (ExNullPtr const&) {
+    if (!workspace)
+      throw HostError("the action \"" + name + "\" needs a workspace, and none is open");
+    throw;
+  }
+  if (!workspace)
+    return {};
   return workspace->getRequests();
 }
 

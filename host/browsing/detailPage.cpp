@@ -72,15 +72,14 @@ DetailPage::Content DetailPage::show(RCShdPtr<BrBrowsable> const& item) {
   view_->setContent(item, RCShdPtr<SnSelection>());
   Content content = {view_->getName(), view_->understands(item), {}, {}};
   for (BrDetailView::Page const& page : view_->getPages()) {
-    Content::Page& shown = content.pages.emplace_back(Content::Page{page.title, {}});
     // A title stands before each value.
     std::vector<Widget> const widgets = describe(page.widget).children;
     for (std::size_t title = 0; title + 1 < widgets.size(); title += 2) {
       Widget const& value = widgets[title + 1];
       auto const background = value.colors.find(UiWidget::BackgroundColor);
-      shown.fields.push_back({widgets[title].text.value_or(""), value.text.value_or(""),
-                              value.editable.value_or(false),
-                              background == value.colors.end() ? "" : background->second});
+      content.fields.push_back({page.title, widgets[title].text.value_or(""),
+                                value.text.value_or(""), value.editable.value_or(false),
+                                background == value.colors.end() ? "" : background->second});
     }
   }
   if (view_->getIconPane())

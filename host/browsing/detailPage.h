@@ -40,21 +40,19 @@ public:
   /// What the page shows of one item.
   struct Content {
     struct Field {
+      /// The title of its page.
+      std::string page;
       std::string title;
       std::string value;
       bool editable;
       /// As "#rrggbb"; empty for the standard colour.
       std::string background;
     };
-    struct Page {
-      std::string title;
-      std::vector<Field> fields;
-    };
 
     std::string view;
     /// Whether the view is meant for the item.
     bool understood;
-    std::vector<Page> pages;
+    std::vector<Field> fields;
     std::optional<Widget> iconPane;
   };
 

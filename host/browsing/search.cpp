@@ -3,29 +3,8 @@
 #include "safeText.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
-#include <stdexcept>
-#include <utf8proc.h>
 
 namespace Qv {
-
-namespace {
-
-/// The form of a text in which equal ones are the same bytes. It is well-formed UTF-8.
-std::string folded(std::string const& text) {
-  std::string const safe = escaped(text);
-  utf8proc_uint8_t* result = nullptr;
-  utf8proc_ssize_t const size = utf8proc_map(
-      reinterpret_cast<utf8proc_uint8_t const*>(safe.data()), utf8proc_ssize_t(safe.size()),
-      &result, utf8proc_option_t(UTF8PROC_STABLE | UTF8PROC_COMPOSE | UTF8PROC_CASEFOLD));
-  if (size < 0)
-    throw std::runtime_error(utf8proc_errmsg(size));
-  std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> const owner(result, &std::free);
-  return std::string(reinterpret_cast<char const*>(result), std::size_t(size));
-}
-
-} // namespace
 
 Search::Search(BrBrowsable& root, std::string const& text)
     : text_(folded(text)), levels_{{getChildren(root), 0}} {}
@@ -38,14 +17,9 @@ bool Search::step() {
 
   // Let go of at once: there may be a million.
   RCShdPtr<BrBrowsable> const item = std::move(levels_.back().items[levels_.back().next++]);
-  std::string const path = item->getPath();
-  std::string const label = getAttribute(*item, BrBrowsable::NAME);
-  std::string const name = path.substr(path.rfind('/') + 1);
-  Match match = getMatch(label);
-  if (name != label)
-    match = std::min(match, getMatch(name));
-  if (match != Match::None && paths_.insert(path).second)
-    found_.push_back({match, label, getAttribute(*item, BrBrowsable::BROWSABLE_TYPE), path});
+  if (std::optional<Found> found = findBestMatch(item);
+      found && paths_.insert(item->getPath()).second)
+    found_.push_back(std::move(*found));
   if (hasChildren(*item))
     levels_.push_back({getChildren(*item), 0});
   return true;
@@ -53,19 +27,43 @@ bool Search::step() {
 
 std::vector<Search::Found> Search::getResult() const {
   std::vector<Found> result = found_;
+  auto const rank = [](Found const& found) {
+    return std::pair(found.place >= Place::Detail, found.match);
+  };
   std::stable_sort(result.begin(), result.end(),
-                   [](Found const& left, Found const& right) { return left.match < right.match; });
+                   [&](Found const& left, Found const& right) { return rank(left) < rank(right); });
   return result;
 }
 
-Search::Match Search::getMatch(std::string const& name) const {
-  std::string const candidate = folded(name);
-  std::size_t const at = candidate.find(text_);
-  if (at == std::string::npos)
-    return Match::None;
-  if (at > 0)
-    return Match::Substring;
-  return candidate.size() == text_.size() ? Match::Exact : Match::Prefix;
+std::optional<Search::Found> Search::findBestMatch(RCShdPtr<BrBrowsable> const& item) {
+  std::optional<Found> best;
+  auto const consider = [&](Place place, std::string const& title, std::string const& text) {
+    std::string const candidate = folded(text);
+    std::size_t const at = candidate.find(text_);
+    Match const match = at > 0                            ? Match::Substring
+                        : candidate.size() > text_.size() ? Match::Prefix
+                                                          : Match::Exact;
+    if (at != std::string::npos && (!best || match < best->match))
+      best = {item, place, match, title, text};
+  };
+  std::string const name = getLastName(item->getPath());
+  std::string const label = getAttribute(*item, BrBrowsable::NAME);
+  consider(Place::Name, "", name);
+  if (name != label)
+    consider(Place::Label, "", label);
+  if (best)
+    return best;
+
+  auto const [page, added] =
+      pages_.try_emplace(getAttribute(*item, BrBrowsable::BROWSABLE_TYPE), std::nullopt);
+  if (added)
+    page->second = DetailPage::create(item);
+  if (page->second)
+    for (DetailPage::Content::Field const& field : page->second->show(item).fields)
+      consider(Place::Detail, field.title, field.value);
+  for (std::string const& line : getTooltipLines(*item))
+    consider(Place::Tooltip, "", line);
+  return best;
 }
 
 } // namespace Qv

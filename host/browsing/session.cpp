@@ -5,6 +5,7 @@
 #include "hostTtServer.h"
 #include "hostViewFactory.h"
 #include "hostWorkspace.h"
+#include "piBrowserSchemes.h"
 #include "readToolSources.h"
 
 #include <algorithm>
@@ -62,6 +63,17 @@ void Session::refill(std::vector<ToolSource> sources) {
   for (ToolSource const& source : sources)
     plugins_.insert(plugins_.end(), source.plugins.begin(), source.plugins.end());
   registerToolSources(std::move(sources));
+}
+
+ToolSource::Plugin const* Session::findPlugin(BrBrowsable const& item) const {
+  if (item.getSchemeName() != PiBrowserSchemes::PluginToolScheme)
+    return nullptr;
+  std::string const path = item.getPath();
+  // Of tools of one name, the details of the first are shown.
+  auto const found = std::find_if(plugins_.begin(), plugins_.end(), [&](auto const& plugin) {
+    return path == plugin.category + "/" + plugin.tool;
+  });
+  return found == plugins_.end() ? nullptr : &*found;
 }
 
 Session::Registries::~Registries() {

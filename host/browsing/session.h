@@ -1,5 +1,6 @@
 #pragma once
 
+#include "brBrowsable.h"
 #include "hostJournal.h"
 #include "hostModule.h"
 #include "pluginScan.h"
@@ -36,6 +37,8 @@ public:
 
   /// The plug-in files of all sources.
   std::vector<ToolSource::Plugin> const& getPlugins() const { return plugins_; }
+  /// The plug-in that an item stands for; null for any other item.
+  ToolSource::Plugin const* findPlugin(BrBrowsable const& item) const;
   /// What the module did to the host while it started.
   std::vector<HostJournal::Entry> const& getStartup() const { return startup_; }
 

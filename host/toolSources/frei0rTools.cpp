@@ -104,6 +104,8 @@ ToolSource Frei0rTools::read(Search const& search) {
   if (search.plugins.empty())
     throw NoPluginsError("no frei0r plug-in found: " +
                          (reasons.empty() ? "FREI0R_PATH names no directory" : reasons));
+  if (options_.skip)
+    return {};
   std::vector<fs::path> files;
   for (ToolSource::Plugin const& plugin : search.plugins)
     files.push_back(plugin.file);

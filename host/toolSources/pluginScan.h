@@ -11,6 +11,8 @@ namespace Qv {
 
 /// How plug-in files are read.
 struct ScanOptions {
+  /// Whether plug-ins are only looked for, and none is read.
+  bool skip = false;
   /// Whether plug-ins that failed, in whatever run, are tried again, each once.
   bool retry = false;
   /// Whether none is read where plug-ins cannot be isolated completely; see findIsolationGaps().

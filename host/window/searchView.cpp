@@ -62,8 +62,10 @@ void SearchView::list() {
   constexpr std::size_t Most = 1'000;
   std::vector<Search::Found> const found = search_->getResult();
   for (std::size_t hit = 0; hit < std::min(found.size(), Most); ++hit) {
-    paths_.push_back(found[hit].path);
-    addRow(*this, {found[hit].label, found[hit].type, found[hit].path});
+    BrBrowsable& item = *found[hit].item;
+    paths_.push_back(item.getPath());
+    addRow(*this, {getAttribute(item, BrBrowsable::NAME),
+                   getAttribute(item, BrBrowsable::BROWSABLE_TYPE), item.getPath()});
   }
   report_(found.size() > Most
               ? fmt::format("{} hits, the first {} are listed", found.size(), Most)

@@ -58,6 +58,13 @@ template <class T = std::string> std::vector<T> all(json const& array, char cons
   return values;
 }
 
+std::string linesOf(Strings const& lines) {
+  std::string text;
+  for (std::string const& line : lines)
+    text += line + "\n";
+  return text;
+}
+
 /// The output of a run that has to succeed and to say nothing else.
 std::string result(ProgramRun const& run) {
   EXPECT_EQ(run.status, 0);
@@ -96,8 +103,9 @@ protected:
   ProgramRun browse(std::string const& arguments) const {
     return run("--tools catalogue.json " + arguments);
   }
-  json browseJson(std::string const& arguments) const {
-    return json::parse(result(browse("--json " + arguments)));
+  /// What a command prints as JSON under a name.
+  json browseJson(std::string const& arguments, char const* name = "items") const {
+    return json::parse(result(browse("--json " + arguments))).at(name);
   }
   /// Runs it on a terminal, to which both of its outputs go.
   ProgramRun runOnTerminal(std::string const& environment, std::string const& arguments) const {
@@ -124,9 +132,11 @@ TEST_F(QvBrowse, explainsItself) {
         "run-action", "drag", "detail", "check"}) {
     EXPECT_THAT(overview, HasSubstr("\n  " + command + " "));
     EXPECT_THAT(result(run(command + " --help")),
-                testing::AllOf(HasSubstr("Usage: qvbrowse " + command + " "), HasSubstr("--json")));
+                testing::AllOf(HasSubstr("Usage: qvbrowse " + command + " "),
+                               HasSubstr("\n  --json  "), HasSubstr("\n  --tools SOURCE  ")));
   }
-  EXPECT_THAT(result(run("--version")), MatchesRegex("qvbrowse [0-9]+\\.[0-9.]+\n"));
+  for (std::string const option : {"--version", "-V"})
+    EXPECT_THAT(result(run(option)), MatchesRegex("qvbrowse [0-9]+\\.[0-9.]+\n"));
 }
 
 TEST_F(QvBrowse, hasAStatusOfItsOwnForWrongUsage) {
@@ -140,13 +150,15 @@ TEST_F(QvBrowse, hasAStatusOfItsOwnForWrongUsage) {
   for (std::string const lastIsWrong :
        {"prune", "--tools catalogue.json prune", "--prune", "ls tools --prune", "schemes packages",
         "ls tools a surplus", "tree tools --depth -1", "tree tools --depth two",
-        "tree tools --depth 1e99", "ls tools --filter few", "drag views plan --prune"})
+        "tree tools --depth 1e99", "ls tools --filter few", "drag views plan --prune",
+        "ls tools --color pink", "ls tools --plugin-timeout 0", "tree --json tools --paths"})
     expectUsageError(lastIsWrong, lastIsWrong.substr(lastIsWrong.rfind(' ') + 1));
   expectUsageError("surplus drag views plan", "surplus");
   for (char const* const tooShort :
        {"ls", "show tools", "drag tools", "detail tools", "run-action Open", "search tools",
         "--tools", "--module", "tree tools --depth"})
     expectUsageError(tooShort, "required");
+  expectUsageError("tree --paths", "SCHEME");
   expectUsageError("search tools \"\"", "empty");
 }
 
@@ -170,7 +182,9 @@ TEST_F(QvBrowse, isCompletedByBash) {
     (IFS=,; echo -n "${COMPREPLY[*]}"))bash");
   for (auto const& [typed, offered] : std::vector<std::pair<std::string, std::string>>{
            {"s", "schemes,show,search,startup"},
-           {"ls --uns", "--unsorted"},
+           {"ls --unso", "--unsorted"},
+           {"ls --co", "--color"},
+           {"ls --color ", "auto,always,never"},
            {"--no", "--no-pager"},
            {"ls ", "tools,views"},
            {"--tools cata", "catalogue.json"},
@@ -204,10 +218,14 @@ TEST_F(QvBrowse, reportsAFailureInOneSentence) {
              {"tree \"\"", {"\"\""}},
              {"ls parts", {"\"parts\"", "\"tools\", \"views\""}},
              {"drag parts a", {"\"parts\""}},
-             {"tree tools a/b/c", {"\"tools\"", "\"a/b/c\""}},
-             {"show views a/b", {"\"views\"", "\"a/b\""}},
-             {"drag tools Wood/saw a/b/c", {"\"tools\"", "\"a/b/c\""}},
-             {"detail tools Wood/saw a/b/c", {"\"tools\"", "\"a/b/c\""}},
+             {"tree tools a/b/c", {"tools: \"a/b/c\" has more than 2 components"}},
+             {"show views a/b --unlisted", {"views: \"a/b\" has more than 1 component"}},
+             {"drag tools Wood/saw Wood/sow", {"\"Wood/sow\"", "did you mean \"Wood/saw\"?"}},
+             {"detail tools Wood/lathe", {"\"Wood/lathe\""}},
+             {"actions tools wood", {"did you mean \"Wood\"?"}},
+             {"ls tools Wod", {"did you mean \"Wood\"?"}},
+             {"show tools 'Wo\\x6fd\\\\'", {R"("Wood\\")"}},
+             {"run-action Open views 'Site plan'", {"did you mean \"plan\"?"}},
              {"detail tools Wood \"\"", {"\"tools\"", "no detail view"}},
              {"run-action Close views plan", {"unknown action \"Close\"", "\"Open\", "}},
              {"run-action Open tools Wood/saw", {"\"Open\"", "not valid"}}}) {
@@ -222,18 +240,18 @@ TEST_F(QvBrowse, combinesSources) {
                                    {"name": "größe", "category": "Wood", "tooltip": "Late"},
                                    {"name": "saw", "category": "Wood", "tooltip": "Another"}]})");
   json const tools =
-      browseJson("--tools more.json --tools frei0r:plugins tree tools").at("children");
+      browseJson("--tools more.json --tools frei0r:plugins tree tools").at(0).at("children");
   EXPECT_THAT(all(tools, "name"), ElementsAre("Wood", "Kit", "Empty", "Wood", "Source"));
   EXPECT_THAT(all(tools[0]["children"], "name"),
               ElementsAre("saw", "größe", "axe", "größe", "saw"));
   for (auto const& [tool, tooltip] :
-       {std::pair{"saw", "Cuts wood.<br>Mind your<br>fingers."}, {"größe", "<br>Late"}})
-    EXPECT_EQ(browseJson(std::string("--tools more.json show tools Wood/") + tool).at("tooltip"),
-              tooltip);
+       Cases{{"saw", {"Cuts wood.", "Mind your", "fingers."}}, {"größe", {"", "Late"}}})
+    EXPECT_EQ(browseJson("--tools more.json show tools Wood/" + tool).at(0).at("tooltip"), tooltip);
 }
 
 TEST_F(QvBrowse, readsThePluginsOfThisMachineByDefault) {
-  std::vector<std::string> const files = all(json::parse(run("plugins --json").out), "file");
+  std::vector<std::string> const files =
+      all(json::parse(run("plugins --json").out).at("plugins"), "file");
   EXPECT_THAT(files, Not(testing::IsEmpty()));
   EXPECT_THAT(files, testing::Each(testing::StartsWith("/usr/lib/frei0r-1/")));
 }
@@ -243,8 +261,7 @@ TEST_F(QvBrowse, offersViewsOfItsOwnWhereNoSourceHasAny) {
   for (auto const& [sources, views] :
        Cases{{"--tools none.json", {"browser", "toolDetail", "startupJournal", "packages"}},
              {"--tools none.json --tools catalogue.json", {"plan", "übersichtsplan"}}})
-    EXPECT_EQ(all(json::parse(result(run(sources + " --json ls views --unsorted"))), "path"),
-              views);
+    EXPECT_EQ(result(run(sources + " ls views --unsorted --paths")), linesOf(views));
 }
 
 TEST_F(QvBrowse, keepsPluginsAwayFromAllThatIsOpen) {
@@ -271,36 +288,42 @@ TEST_F(QvBrowse, tellsWherePluginsCannotBeIsolated) {
   });
 }
 
-TEST_F(QvBrowse, leavesOutPluginsThatCannotBeRead) {
+TEST_F(QvBrowse, reportsPluginsThatCannotBeReadOnce) {
   install("\xe9");
   install("print");
   install("abort");
   write("plugins/text\n.so", "no plug-in");
-  std::string const source = "--tools frei0r:plugins ";
-  for (std::string const hint : {"", "; \"plugins --retry\" tries it again"}) {
-    ProgramRun const shown = run(source + "ls tools Source");
-    EXPECT_EQ(shown.status, 3);
-    EXPECT_EQ(shown.out, "Type  Tool\nTool  print\nTool  \\xe9\n");
-    std::string const plugins = "qvbrowse: the plug-in \"" + directory_.string() + "/plugins/";
-    EXPECT_EQ(shown.err, plugins + "abort.so\" is left out: crashed with SIGABRT (Aborted)" + hint +
-                             "\n" + plugins + "text\\n.so\" is left out: file too short" + hint +
-                             "\n");
+  std::string const place = directory_.string() + "/plugins/";
+  std::string const news = "qvbrowse: the plug-in \"" + place +
+                           "abort.so\" is left out: crashed with SIGABRT (Aborted)\n"
+                           "qvbrowse: the plug-in \"" +
+                           place + "text\\n.so\" is left out: file too short\n";
+  std::string const known = "qvbrowse: 2 plug-ins are left out; see qvbrowse plugins\n";
+  for (auto const& [arguments, status, report] :
+       std::vector<std::tuple<std::string, int, std::string>>{{"schemes", 0, ""},
+                                                              {"ls views", 0, ""},
+                                                              {"ls tools Source", 3, news},
+                                                              {"show tools Source/print", 0, known},
+                                                              {"", 0, known},
+                                                              {"startup", 0, ""},
+                                                              {"plugins", 0, ""},
+                                                              {"plugins --retry", 3, news}}) {
+    ProgramRun const shown = run("--tools frei0r:plugins " + arguments);
+    EXPECT_EQ(shown.status, status) << arguments;
+    EXPECT_EQ(shown.err, report) << arguments;
   }
-  EXPECT_EQ(json::parse(run(source + "detail tools Source/\xe9 --json").out)
-                .at("/0/pages/0/fields/0/value"_json_pointer),
-            "caf\ufffd");
-
-  EXPECT_THAT(run(source + "plugins").out, HasSubstr("failed  yes"));
-  ProgramRun const retried = run(source + "plugins --retry --json");
-  EXPECT_EQ(retried.status, 3);
-  json const plugins = json::parse(retried.out);
-  EXPECT_EQ(all<bool>(plugins, "cached"), (std::vector{false, true, false, true}));
-  EXPECT_EQ(all<bool>(plugins, "read"), (std::vector{false, true, false, true}));
-  EXPECT_EQ(plugins[1]["failure"], nullptr);
-  EXPECT_EQ(plugins[2]["failure"], "file too short");
+  json const plugins =
+      json::parse(result(run("--tools frei0r:plugins plugins --json"))).at("plugins");
+  EXPECT_EQ(all(plugins, "state"), (Strings{"failed", "read", "failed", "read"}));
+  EXPECT_EQ(plugins[0]["reason"], "crashed with SIGABRT (Aborted)");
+  EXPECT_EQ(plugins[1]["parameters"].size(), 6U);
+  EXPECT_EQ(plugins[1]["place"], directory_.string() + "/plugins");
+  for (auto const& [key, value] :
+       {std::pair{"category", "Source"}, {"tool", "print"}, {"version", "2.10"}, {"reason", ""}})
+    EXPECT_EQ(plugins[1][key], value);
   // Without a cache directory it is a first run each time.
   setenv("XDG_CACHE_HOME", "/dev/null", 1);
-  EXPECT_THAT(run(source + "ls tools").err, Not(HasSubstr("--retry")));
+  EXPECT_EQ(run("--tools frei0r:plugins ls tools").status, 3);
 }
 
 TEST_F(QvBrowse, listsChildren) {
@@ -308,78 +331,126 @@ TEST_F(QvBrowse, listsChildren) {
        Cases{{"tools", {"Empty", "Kit", "Wood", "Wood"}},
              {"tools --unsorted", {"Wood", "Kit", "Empty", "Wood"}},
              {"tools --filter items", {}},
-             {"tools Wood", {"Wood/größe", "Wood/saw"}},
+             {"tools //Wood/", {"Wood/größe", "Wood/saw"}},
              {"tools Wood --unsorted --filter items", {"Wood/saw", "Wood/größe"}},
+             {"tools Nowhere --unlisted", {}},
              {"views", {"übersichtsplan", "plan"}},
-             {"views --unsorted --filter items", {"plan", "übersichtsplan"}}})
+             {"views --unsorted --filter items", {"plan", "übersichtsplan"}}}) {
     EXPECT_EQ(all(browseJson("ls " + arguments), "path"), paths) << arguments;
+    EXPECT_EQ(result(browse("ls --paths " + arguments)), linesOf(paths)) << arguments;
+  }
   EXPECT_EQ(browseJson("ls views").at(1),
-            R"({"path": "plan", "columns": {"Type": "View", "View": "Site plan"}})"_json);
+            R"({"scheme": "views", "path": "plan", "name": "Site plan", "type": "View"})"_json);
+}
+
+TEST_F(QvBrowse, takesBackThePathsThatItPrints) {
+  Strings const names = {"e e", "e\\nb", "e\nb", "e'\"", "e\xe2\x80\xae", "[e]", "--de"};
+  json views = json::array();
+  for (std::string const& name : names)
+    views.push_back({{"name", name}});
+  write("odd.json", json{{"views", views}}.dump());
+  for (std::string const printed : {"ls --unsorted views", "tree views", "search views e"})
+    EXPECT_EQ(
+        all(json::parse(result(runInShell(commandLine("--tools odd.json " + printed +
+                                                      " --paths | xargs -d '\\n' ") +
+                                          commandLine("--tools odd.json --json drag views --"))))
+                .at("items"),
+            "name"),
+        names)
+        << printed;
 }
 
 TEST_F(QvBrowse, showsTreesDownToADepth) {
-  json const kit = R"({"name": "Kit", "type": "Super Tool", "path": "Kit", "children": [
-      {"name": "Kit", "type": "Super Tool", "path": "Kit/Kit", "children": []}]})"_json;
-  EXPECT_EQ(browseJson("tree tools Kit"), kit);
+  json const kit = R"({"scheme": "tools", "path": "Kit", "name": "Kit", "type": "Super Tool",
+                       "children": [{"scheme": "tools", "path": "Kit/Kit", "name": "Kit",
+                                     "type": "Super Tool", "children": []}]})"_json;
+  EXPECT_EQ(browseJson("tree tools Kit"), json::array({kit}));
+  EXPECT_EQ(result(browse("tree tools Kit --paths")), "Kit\nKit/Kit\n");
+  EXPECT_EQ(result(browse("tree views --paths")), "plan\nübersichtsplan\n");
   json tools = browseJson("tree tools");
-  EXPECT_EQ(tools["children"][1], kit);
-  EXPECT_EQ(browseJson(""), json::array({tools, browseJson("tree views")}));
+  EXPECT_EQ(tools[0]["children"][1], kit);
+  EXPECT_EQ(browseJson(""), json::array({tools[0], browseJson("tree views")[0]}));
   EXPECT_EQ(browseJson("tree tools --depth 3"), tools);
 
-  for (json& category : tools["children"])
+  for (json& category : tools[0]["children"])
     category.erase("children");
   EXPECT_EQ(browseJson("tree tools --depth 1"), tools);
-  tools.erase("children");
+  tools[0].erase("children");
   EXPECT_EQ(browseJson("tree tools --depth 0"), tools);
 }
 
-TEST_F(QvBrowse, showsAnItem) {
-  json shown = browseJson("show tools Wood/saw");
-  EXPECT_EQ(shown["detail"]["pages"][0]["fields"][0]["value"], "Hand saw");
-  shown.erase("detail");
-  EXPECT_EQ(shown, R"({
-    "scheme": "tools", "path": "Wood/saw",
-    "attributes": {"NAME": "saw", "BROWSABLE_TYPE": "Tool", "ROOT_NAME": "Plugin Registry",
-                   "OWNER": "Not available", "LMTIME": "Not available",
-                   "CREATION_TIME": "Not available", "BROWSABLE_ROLE": ""},
+TEST_F(QvBrowse, showsItems) {
+  json const items = browseJson("show tools Wood/saw Wood \"\"");
+  json saw = items[0];
+  EXPECT_EQ(saw["detail"]["fields"][0]["value"], "Hand saw");
+  saw.erase("detail");
+  EXPECT_EQ(saw, R"({
+    "scheme": "tools", "path": "Wood/saw", "name": "saw", "type": "Tool",
+    "attributes": {"ROOT_NAME": "Plugin Registry", "OWNER": "Not available",
+                   "LMTIME": "Not available", "CREATION_TIME": "Not available",
+                   "BROWSABLE_ROLE": ""},
     "container": false, "hasChildren": false, "hasContainerChildren": false, "picklistable": true,
     "icon": {"file": "tool.tif", "width": 32, "height": 32},
     "thumbnail": {"file": "toolThumbnail.tif", "width": 128, "height": 128},
-    "tooltip": "Cuts wood.<br>Mind your<br>fingers."})"_json);
-
-  json const category = browseJson("show tools Wood");
+    "tooltip": ["Cuts wood.", "Mind your", "fingers."], "plugin": null})"_json);
   for (char const* const property : {"container", "hasChildren"})
-    EXPECT_EQ(category[property], true) << property;
+    EXPECT_EQ(items[1][property], true) << property;
   for (char const* const property : {"hasContainerChildren", "picklistable"})
-    EXPECT_EQ(category[property], false) << property;
-  EXPECT_EQ(category["detail"], nullptr);
-  EXPECT_EQ(browseJson("show tools \"\"")["hasContainerChildren"], true);
+    EXPECT_EQ(items[1][property], false) << property;
+  EXPECT_EQ(items[1]["detail"], nullptr);
+  EXPECT_EQ(items[2]["hasContainerChildren"], true);
+  EXPECT_EQ(browseJson("show --unlisted tools Wood/lathe")[0]["detail"]["fields"][3]["value"],
+            "Inactive");
+}
+
+TEST_F(QvBrowse, showsThePluginOfATool) {
+  json const items = json::parse(run("--json show tools Filter/sopsat Filter").out).at("items");
+  json const plugin = items[0]["plugin"];
+  EXPECT_EQ(plugin["file"], "/usr/lib/frei0r-1/sopsat.so");
+  EXPECT_THAT(plugin["version"].get<std::string>(), MatchesRegex("[0-9]+\\.[0-9]+"));
+  EXPECT_EQ(plugin["parameters"][0], R"({"name": "rSlope", "type": "double",
+    "explanation": "Slope of the red color component"})"_json);
+  EXPECT_EQ(items[1]["plugin"], nullptr);
+  EXPECT_THAT(run("detail tools Filter/sopsat").out,
+              HasSubstr("\nrSlope      double  Slope of the red color component\n"));
+  for (auto const& [text, hit] : Cases{{"SOP/sat", {"detail", "Full name"}},
+                                       {"rslope", {"tooltip"}},
+                                       {"Sopsat", {"name"}},
+                                       {"Slope/Offset", {"detail", "Description"}},
+                                       {"eugster (granjow), version 0.3", {"detail", "Origin"}}}) {
+    json const found = json::parse(run("--json search tools '" + text + "'").out).at("items");
+    EXPECT_THAT(all(found, "path"), testing::Contains("Filter/sopsat")) << text;
+    EXPECT_EQ(found[0]["in"], hit[0]) << text;
+    EXPECT_EQ(found[0]["field"], hit.size() > 1 ? json(hit[1]) : json(nullptr)) << text;
+  }
 }
 
 TEST_F(QvBrowse, describesTheColumnsOfTheSchemes) {
-  json const schemes = browseJson("schemes");
+  json const schemes = browseJson("schemes", "schemes");
   EXPECT_EQ(all(schemes, "scheme"), (Strings{"tools", "views"}));
   EXPECT_EQ(schemes[0]["observable"], true);
   EXPECT_EQ(schemes[0]["columns"][0]["dataType"], "icon");
-  EXPECT_EQ(schemes[0]["columns"][1], R"({
+  EXPECT_EQ(schemes[0]["columns"][1], R"-({
     "title": "Tool", "attribute": "NAME", "dataType": "string", "minimumWidth": 40,
-    "maximumWidth": 2000, "currentWidth": 365, "attributes": [0, 2, 5, 7, 8], "shown": true,
-    "sortKey": true, "auxFlag": true, "auxText": "none"})"_json);
+    "maximumWidth": 2000, "currentWidth": 365, "shown": true,
+    "flags": ["AttribAttributes(0)", "AttribAttributes(2)", "AttribAttributes(5)",
+              "AttribAttributes(7)", "AttribAttributes(8)"],
+    "sortKey": true, "auxFlag": true, "auxText": "none"})-"_json);
 }
 
 TEST_F(QvBrowse, showsTheStartAndThePackages) {
-  json const entries = browseJson("startup");
+  json const entries = browseJson("startup", "entries");
   EXPECT_EQ(entries.front()["operation"], "InPackageInit::registerPackage");
-  EXPECT_EQ(entries.back(), R"({"operation": "ActRegistry::registerAction",
+  EXPECT_EQ(entries.back(), R"({"number": 51, "operation": "ActRegistry::registerAction",
                                 "key": "Open in Window", "detail": "0"})"_json);
 
-  json const packages = browseJson("packages");
-  EXPECT_EQ(packages["packages"].back(), R"({
+  json const packages = browseJson("packages", "packages");
+  EXPECT_EQ(packages.back(), R"({
     "package": "pluginBrowserQvmodule",
     "dependencies": ["appUi", "ui", "datamgt", "gfx", "framework", "internalAPI", "pluginAPI",
                      "resmgt", "base"]})"_json);
-  EXPECT_EQ(packages["packages"].size(), 10U);
-  EXPECT_EQ(packages.at("buildInfos"), R"([{
+  EXPECT_EQ(packages.size(), 10U);
+  EXPECT_EQ(browseJson("packages", "buildInfos"), R"([{
     "product": "Halvard Ostrel Library", "library": "libQvpluginBrowserQvmodule",
     "release": "2013", "version": "8.0", "stage": "", "major": 8, "minor": 0, "stageCode": 42,
     "buildNumber": "2600", "buildDate": "Jun 12 2012",
@@ -388,47 +459,46 @@ TEST_F(QvBrowse, showsTheStartAndThePackages) {
 
 TEST_F(QvBrowse, showsWhichActionsAreValidAndWhatTheyOpen) {
   for (auto const& [item, valid] : {std::pair{"views plan", true}, {"tools Wood/saw", false}}) {
-    json expected = R"({"name": "Open", "display": "Open", "dynamicState": 0, "options": []})"_json;
+    json expected = R"-({"name": "Open", "display": "Open", "dynamicState": "DynamicState(0)",
+                         "options": []})-"_json;
     expected["valid"] = valid;
-    json const actions = browseJson(std::string("actions ") + item);
+    json const actions = browseJson(std::string("actions ") + item, "actions");
     EXPECT_EQ(actions.at(0), expected) << item;
     EXPECT_EQ(all(actions, "name"), (Strings{"Open", "Open in Window"}));
   }
-  EXPECT_EQ(browseJson("run-action Open views plan"),
+  EXPECT_EQ(browseJson("run-action Open views plan", "opened"),
             R"([{"view": "plan", "newWindow": false, "flag": true}])"_json);
-  EXPECT_EQ(browseJson("run-action \"Open in Window\" views plan"),
+  EXPECT_EQ(browseJson("run-action \"Open in Window\" views plan", "opened"),
             R"([{"view": "plan", "newWindow": true, "flag": false}])"_json);
 }
 
 TEST_F(QvBrowse, showsWhatADragCarries) {
   EXPECT_EQ(browseJson("drag views plan"), R"([{
-    "path": "plan", "handler": "Qv::PbrViewDndHandler",
-    "accepted": true, "cut": false, "copy": true, "drop": false,
-    "items": [{
-      "arrives": "view \"plan\"",
-      "dump": "Item:      Qv::SnItemBasic<Qv::UiViewIdentifier>\nData:      view \"plan\"\n"
-    }]}])"_json);
-
-  EXPECT_THAT(all(browseJson("drag views [a,b] plan [c]"), "path"),
+    "scheme": "views", "path": "plan", "name": "Site plan", "type": "View",
+    "handler": "Qv::PbrViewDndHandler", "accepted": true, "cut": false, "copy": true,
+    "drop": false, "arrives": ["view \"plan\""]}])"_json);
+  EXPECT_EQ(browseJson("drag --dump views plan").at("/0/dump"_json_pointer),
+            R"(["Item:      Qv::SnItemBasic<Qv::UiViewIdentifier>",
+                "Data:      view \"plan\""])"_json);
+  EXPECT_THAT(all(browseJson("drag --unlisted views [a,b] plan [c]"), "path"),
               ElementsAre("[a,b]", "plan", "[c]"));
 
   ProgramRun const drags = browse("--json drag tools Wood/saw Wood Kit \"\"");
   EXPECT_EQ(drags.status, 1);
   EXPECT_EQ(drags.err, "qvbrowse: cannot be dragged out of the scheme \"tools\": \"Wood\", \"\"\n");
-  json const carried = json::parse(drags.out);
+  json const carried = json::parse(drags.out).at("items");
   EXPECT_EQ(all<bool>(carried, "accepted"), (std::vector{true, false, true, false}));
-  EXPECT_EQ(carried[0]["items"][0]["arrives"], "tool \"saw\"");
+  EXPECT_EQ(carried[0]["arrives"][0], "tool \"saw\"");
 }
 
 TEST_F(QvBrowse, showsItemsOnOneDetailPage) {
-  json const shown = browseJson("detail tools Wood/saw Wood/lathe Wood");
-  EXPECT_THAT(all(shown, "path"), ElementsAre("Wood/saw", "Wood/lathe", "Wood"));
-  EXPECT_EQ(all<bool>(shown, "understood"), (std::vector{true, true, false}));
-  EXPECT_EQ(shown.at("/0/pages/0/fields/1"_json_pointer),
-            R"({"title": "Description", "value": "Cuts wood.", "editable": false,
-                "background": "#404040"})"_json);
-  EXPECT_EQ(shown.at("/1/pages/0/fields/3/value"_json_pointer), "Inactive");
-  EXPECT_EQ(shown.at("/2/iconPane/children/0/image/file"_json_pointer), "folderThumbnail.tif");
+  json const shown = browseJson("detail tools Wood/saw Kit/Kit Wood");
+  EXPECT_THAT(all(shown, "path"), ElementsAre("Wood/saw", "Kit/Kit", "Wood"));
+  EXPECT_EQ(all<bool>(all<json>(shown, "detail"), "understood"), (std::vector{true, true, false}));
+  EXPECT_EQ(shown.at("/0/detail/fields/1"_json_pointer),
+            R"({"page": "Information", "title": "Description", "value": "Cuts wood.",
+                "editable": false, "background": "#404040"})"_json);
+  EXPECT_EQ(shown.at("/2/detail/image/file"_json_pointer), "folderThumbnail.tif");
   EXPECT_FALSE(shown[0].contains("widgets"));
 
   json const widgets = browseJson("detail --dump tools Wood/saw").at("/0/widgets"_json_pointer);
@@ -436,17 +506,61 @@ TEST_F(QvBrowse, showsItemsOnOneDetailPage) {
               ElementsAre("Full name", "Hand saw", "Description", "Cuts wood.", "Origin",
                           "Workshop, 2.1", "State", "Active"));
   EXPECT_EQ(widgets.at(1).at("class"), "Qv::UiSplitPane");
+  EXPECT_EQ(widgets.at(1).at("orientation"), "Orientation(2)");
 }
 
-TEST_F(QvBrowse, findsItemsByNameAndLabel) {
+TEST_F(QvBrowse, findsItemsByAllTheirTexts) {
   EXPECT_EQ(browseJson("search views \"SITE P\""),
-            R"([{"name": "Site plan", "type": "View", "path": "plan", "match": "prefix"}])"_json);
+            R"([{"scheme": "views", "path": "plan", "name": "Site plan", "type": "View",
+                 "match": "prefix", "in": "label", "field": null, "text": "Site plan"}])"_json);
   EXPECT_EQ(all(browseJson("search views PLAN"), "match"), (Strings{"exact", "substring"}));
+  EXPECT_EQ(result(browse("search tools wo --paths")), "Wood\nWood/saw\n");
 
   ProgramRun const nothing = browse("--json search tools hammer");
   EXPECT_EQ(nothing.status, 1);
-  EXPECT_EQ(nothing.out, "[]\n");
+  EXPECT_EQ(json::parse(nothing.out).at("items"), json::array());
   expectFailure(browse("search tools hammer"), {"\"tools\"", "\"hammer\""});
+}
+
+TEST_F(QvBrowse, printsJsonAsItsSchemaSays) {
+  install("print");
+  install("abort");
+  for (std::string const arguments : {"",
+                                      "schemes",
+                                      "ls tools",
+                                      "ls views",
+                                      "tree tools --depth 1",
+                                      "show tools Wood/saw Wood \"\"",
+                                      "show views plan",
+                                      "search tools a",
+                                      "search tools nothing",
+                                      "detail tools Wood/saw Wood",
+                                      "detail --dump tools Kit",
+                                      "actions views plan",
+                                      "run-action Open views plan",
+                                      "startup",
+                                      "drag tools Wood/saw Wood",
+                                      "drag --dump views plan",
+                                      "packages",
+                                      "--tools frei0r:plugins plugins",
+                                      "--tools frei0r:plugins show tools Source/print",
+                                      "check --only file."}) {
+    std::string const command = "--tools catalogue.json --json " + arguments;
+    run(command);
+    write("result.json", run(command).out);
+    std::string const validate = "/usr/bin/python3 -m jsonschema \"" SCHEMA_FILE "\" -i ";
+    ProgramRun const valid = runInShell(validate + "result.json");
+    EXPECT_EQ(valid.status, 0) << arguments << "\n" << valid.err;
+    if (arguments.find("--dump") == std::string::npos) {
+      EXPECT_EQ(run(command).out, read("result.json"));
+    }
+    json other = json::parse(read("result.json"));
+    for (json& list : other)
+      if (list.is_array())
+        list.push_back({{"scheme", "tools"}});
+    write("other.json", other.dump());
+    EXPECT_EQ(runInShell(validate + "other.json").status, 1) << arguments;
+  }
 }
 
 TEST_F(QvBrowse, drawsTreesAndAlignsTables) {
@@ -470,42 +584,48 @@ TEST_F(QvBrowse, drawsTreesAndAlignsTables) {
                                         "Tool Category  Wood\n");
   // This name has a letter of two bytes.
   EXPECT_EQ(result(browse("run-action Open views übersichtsplan")),
-            "Opened view     In      Flag\n"
-            "übersichtsplan  window  true\n");
+            "View            New window  Flag\n"
+            "übersichtsplan  no          yes\n");
+  EXPECT_EQ(result(browse("ls views")), "Type  View       Path\n"
+                                        "View  Overview   übersichtsplan\n"
+                                        "View  Site plan  plan\n");
   EXPECT_THAT(result(browse("show tools Wood/saw")),
-              HasSubstr("\ntooltip                 Cuts wood.\n"
+              HasSubstr("\nTooltip                 Cuts wood.\n"
                         "                        Mind your\n"
                         "                        fingers.\n"));
 }
 
 TEST_F(QvBrowse, printsEachResultAsText) {
   write("wide.json", R"({"tools": [{"name": "漢字", "category": "e\u0301"}]})");
-  for (auto const& [arguments, lines] : Cases{
-           {"startup",
-            {"#   Operation                       Key                         Detail\n",
-             "\n21  InBuildInfoUtil::registerInfo   libQvpluginBrowserQvmodule  8.0\n"}},
-           {"packages",
-            {"Package                Depends on\n", "\ndatamgt                base, resmgt\n",
-             "\nproduct            Halvard Ostrel Library\n",
-             "\nbuildFlavor        opt.x86_64.intel\n"}},
-           {"plugins", {"State  Cached  File  Reason\n"}},
-           {"search tools wood", {"Type           Name  Path\nTool Category  Wood  Wood\n"}},
-           // In columns of the terminal.
-           {"--tools wide.json search tools 漢", {"Type  Name  Path\nTool  漢字  e\u0301/漢字\n"}},
-           {"actions views plan",
-            {"Action          Valid  Dynamic state\nOpen            yes    0\n"}},
-           {"detail tools Wood/saw Wood",
-            {"\"Wood/saw\"\nPage ", "\n\n\"Wood\" (not understood by the view)\nPage "}},
-           {"detail --dump tools Wood/saw",
-            {"\n    Qv::UiLabel \"FieldValue0\" text=\"Hand saw\" width=340 height=24 "
-             "colors={}\n"}},
-           {"drag views plan", {"\n  arrives: view \"plan\"\n"}}}) {
+  for (auto const& [arguments, lines] :
+       Cases{{"startup",
+              {"Number  Operation                       Key                         Detail\n",
+               "\n51      ActRegistry::registerAction     Open in Window "}},
+             {"packages",
+              {"Package                Dependencies\n", "\ndatamgt                base, resmgt\n",
+               "\nProduct       Halvard Ostrel Library\n", "\nBuild flavor  opt.x86_64.intel\n"}},
+             {"schemes", {"\nviews   View   NAME            string     40             2000 "}},
+             {"plugins", {"State  Category  Tool  Version  File  Reason\n"}},
+             {"search tools kit",
+              {"Type        Name  Path     In    Field  Text\n",
+               "\nSuper Tool  Kit   Kit/Kit  name         Kit\n"}},
+             // In columns of the terminal.
+             {"--tools wide.json search tools 漢",
+              {"Type  Name  Path    In    Field  Text\nTool  漢字  e\u0301/漢字  name         "
+               "漢字\n"}},
+             {"actions views plan",
+              {"Name            Valid  Dynamic state\nOpen            yes    DynamicState(0)\n"}},
+             {"detail tools Wood/saw Wood", {"\"Wood/saw\"\n\nPage ", "\n\n\"Wood\"\n\nPage "}},
+             {"detail --dump tools Wood/saw",
+              {"\n    Qv::UiLabel \"FieldValue0\" text=\"Hand saw\" width=340 height=24 "
+               "colors={}\n"}},
+             {"drag views plan",
+              {"Path  Handler                Accepted  Cut  Copy  Drop  Arrives\n"
+               "plan  Qv::PbrViewDndHandler  yes       no   yes   no    view \"plan\"\n"}}}) {
     std::string const text = result(browse(arguments));
     for (std::string const& line : lines)
       EXPECT_THAT(text, HasSubstr(line)) << arguments;
   }
-  EXPECT_EQ(browse("drag tools Wood").out, "\"Wood\"\n  handler: Qv::PbrToolDndHandler\n"
-                                           "  accepted: no, cut: no, copy: no, drop: no\n");
 }
 
 TEST_F(QvBrowse, escapesControlCharacters) {
@@ -536,10 +656,16 @@ TEST_F(QvBrowse, usesColoursOnATerminalOnly) {
     arguments.insert(0, "--tools catalogue.json ");
     std::string const piped = result(run(arguments));
     EXPECT_THAT(piped, Not(HasSubstr("\x1b")));
-    std::string const coloured = result(runOntoTerminal("-u NO_COLOR", arguments));
-    EXPECT_THAT(coloured, HasSubstr("\x1b["));
-    EXPECT_EQ(withoutStyles(coloured), piped);
+    for (std::string const& coloured :
+         {result(runOntoTerminal("NO_COLOR=", arguments)),
+          result(run(arguments + " --color always")),
+          result(runOntoTerminal("NO_COLOR=1", arguments + " --color=always"))}) {
+      EXPECT_THAT(coloured, HasSubstr("\x1b["));
+      EXPECT_EQ(withoutStyles(coloured), piped);
+    }
     for (ProgramRun const& plain : {runOntoTerminal("NO_COLOR=1", arguments),
+                                    runOntoTerminal("-u NO_COLOR TERM=dumb PAGER=false", arguments),
+                                    runOntoTerminal("-u NO_COLOR", arguments + " --color never"),
                                     runOntoTerminal("-u NO_COLOR", arguments + " --json")})
       EXPECT_THAT(result(plain), Not(HasSubstr("\x1b")));
   }
@@ -566,11 +692,34 @@ TEST_F(QvBrowse, pagesTheOutputOnATerminal) {
             "Tools  [Tools Folder]\n");
   EXPECT_EQ(runWithPager("true", "drag tools Wood").status, 1);
 
+  // One that cannot be run is as good as none.
   for (std::string const pager : {"no-such-pager", "./many.json"}) {
-    ProgramRun const missing = runWithPager(pager, "ls tools");
-    EXPECT_EQ(missing.status, 1);
-    EXPECT_THAT(missing.err, HasSubstr("\"" + pager + "\""));
+    ProgramRun const missing = runWithPager(pager, "ls tools Wood");
+    EXPECT_EQ(missing.status, 0);
+    EXPECT_THAT(withoutStyles(missing.out), testing::EndsWith(listed));
   }
+}
+
+TEST_F(QvBrowse, fitsTheTerminal) {
+  std::string const name(60, 'n');
+  write("long.json", json{{"tools",
+                           {{{"name", name + "x"},
+                             {"category", "C"},
+                             {"texts", {"", "one two three four five six seven", ""}}}}}}
+                         .dump());
+  auto const runAt = [&](std::string const& columns, std::string const& arguments) {
+    return withoutStyles(runInShell("script -qec 'stty cols " + columns +
+                                    "; env -u NO_COLOR PAGER= " +
+                                    commandLine("--tools long.json " + arguments) + "' /dev/null")
+                             .out);
+  };
+  std::string const found = "search tools three";
+  EXPECT_THAT(runAt("60", found), HasSubstr("  one two three four five\n  "));
+  EXPECT_THAT(runAt("60", found), HasSubstr("…"));
+  EXPECT_EQ(runAt("400", found), result(run("--tools long.json " + found)));
+  std::istringstream lines(runAt("60", found));
+  for (std::string line; std::getline(lines, line);)
+    EXPECT_LE(line.size(), 60U + 2 * std::string("…").size()) << line;
 }
 
 TEST_F(QvBrowse, showsProgressOnATerminalOnly) {

@@ -1,8 +1,10 @@
-#include "noLeaks.h"
+#include "actions.h"
 #include "hostBrRegistry.h"
-#include "hostError.h"
 #include "hostToolRegistry.h"
 #include "hostViewFactory.h"
+#include "lookup.h"
+#include "noLeaks.h"
+#include "refusal.h"
 #include "safeText.h"
 #include "search.h"
 #include "session.h"
@@ -75,6 +77,7 @@ TEST_F(Browsing, findsTheBestMatchesFirst) {
            {"tools", "SÄGE", {"Wood/sa\u0308ge"}},
            {"tools", "kit", {"Kit", "Kit/Kit"}},
            {"tools", "wood", {"Wood"}},
+           {"tools", "SHARP", {"Wood/saw"}},
            {"views", "plan", {"plan", "übersichtsplan"}},
            {"views", "ÜBER", {"übersichtsplan"}},
            {"views", "e", {"plan", "übersichtsplan"}}}) {
@@ -83,7 +86,7 @@ TEST_F(Browsing, findsTheBestMatchesFirst) {
       continue;
     Strings paths;
     for (Search::Found const& found : search.getResult())
-      paths.push_back(found.path);
+      paths.push_back(found.item->getPath());
     EXPECT_EQ(paths, expected) << text;
   }
 }
@@ -98,16 +101,55 @@ TEST_F(Browsing, searchesStepByStep) {
   EXPECT_FALSE(search.step());
 }
 
-TEST(SafeText, escapesWhatIsNotPlainText) {
-  for (auto const& [text, safe] :
-       std::vector<std::pair<std::string, std::string>>{{"größe 漢字", "größe 漢字"},
-                                                        {"a\nb\tc", R"(a\nb\x09c)"},
-                                                        {"\x1b[31m\x7f", R"(\x1b[31m\x7f)"},
-                                                        {std::string("a\0b", 3), R"(a\x00b)"},
-                                                        {"\xc2\x85", R"(\x85)"},
-                                                        {"caf\xe9", R"(caf\xe9)"},
-                                                        {"\xe6\xbc", R"(\xe6\xbc)"}})
+TEST_F(Browsing, takesOnlyPathsThatAreListed) {
+  Session const session(from(Catalogue));
+  Strings paths;
+  for (RCShdPtr<BrBrowsable> const& item :
+       findListedItems("tools", {"//Kit//", "", "Wood/saw", "/Wood//größe", "Wood/saw"}))
+    paths.push_back(item->getPath());
+  EXPECT_EQ(paths, (Strings{"Kit", "", "Wood/saw", "Wood/größe", "Wood/saw"}));
+
+  for (auto const& [scheme, path, refusal] :
+       std::vector<std::tuple<char const*, char const*, char const*>>{
+           {"tools", "wod", "tools: no item \"wod\" is listed; did you mean \"Wood\"?"},
+           {"tools", "Wood/mill",
+            "tools: no item \"Wood/mill\" is listed; did you mean \"Wood/sawmill\"?"},
+           {"views", "site  plan",
+            "views: no item \"site  plan\" is listed; did you mean \"plan\"?"},
+           {"tools", "Kit/xyz", "tools: no item \"Kit/xyz\" is listed"},
+           {"tools", "Steel/saw", "tools: no item \"Steel/saw\" is listed"},
+           {"tools", "a/b/c/d", "tools: \"a/b/c/d\" has more than 2 components"},
+           {"views", "a/b", "views: \"a/b\" has more than 1 component"}})
+    EXPECT_EQ(std::string(thrownBy<std::invalid_argument>([&, scheme = scheme, path = path] {
+                            findListedItems(scheme, {"", path});
+                          }).what()),
+              refusal);
+}
+
+TEST_F(Browsing, tellsThatAnActionNeedsAWorkspace) {
+  Session const session(from(Catalogue));
+  RCShdPtr<BrBrowsable> const plan = findItem("views", "plan");
+  EXPECT_EQ(refusalOf([&] { performAction("Open", plan, RCShdPtr<HostWorkspace>()); }),
+            "the action \"Open\" needs a workspace, and none is open");
+}
+
+TEST(SafeText, escapesWhatIsNotPlainTextAndBack) {
+  for (auto const& [text, safe] : std::vector<std::pair<std::string, std::string>>{
+           {"größe 漢字 e\u0301", "größe 漢字 e\u0301"},
+           {"a\nb\tc", R"(a\nb\x09c)"},
+           {"\x1b[31m\x7f", R"(\x1b[31m\x7f)"},
+           {"\u0085", R"(\xc2\x85)"},
+           {"caf\xe9", R"(caf\xe9)"},
+           {"\xe6\xbc", R"(\xe6\xbc)"},
+           {R"(a\nb)", R"(a\\nb)"},
+           {"a\u202eb", R"(a\xe2\x80\xaeb)"},
+           {"\u200b\u2028\ufeff\u3164", R"(\xe2\x80\x8b\xe2\x80\xa8\xef\xbb\xbf\xe3\x85\xa4)"}}) {
     EXPECT_EQ(escaped(text), safe);
+    EXPECT_EQ(unescaped(safe), text);
+  }
+  EXPECT_EQ(escaped(std::string("a\0b", 3)), R"(a\x00b)");
+  for (std::string const none : {R"(a\b\)", R"(\x0)", R"(\x00\xfg)"})
+    EXPECT_EQ(unescaped(none), none);
 }
 
 } // namespace

@@ -13,7 +13,12 @@ _qvbrowse_run() {
 
 # The values of a key in a JSON answer, one a line, without those that hold escapes.
 _qvbrowse_values() {
-  _qvbrowse_run "${@:2}" --json | sed -n 's/^    "'"$1"'": "\([^"\\]*\)".*/\1/p'
+  _qvbrowse_run "${@:2}" --json | sed -n 's/^      "'"$1"'": "\([^"\\]*\)".*/\1/p'
+}
+
+# The paths of the children of an item, without those that hold escapes.
+_qvbrowse_children() {
+  _qvbrowse_run ls "$@" --paths | sed '/\\/d'
 }
 
 # Offers the lines of stdin that continue what has been typed, each with $1 at its end.
@@ -32,12 +37,12 @@ _qvbrowse_offer() {
 _qvbrowse_paths() {
   local typed=${cur//[\\\"\']/} parent='' items
   [[ $typed == */* ]] && parent=${typed%/*}
-  items=$(_qvbrowse_values path ls "$1" "$parent" --filter items)
+  items=$(_qvbrowse_children "$1" "$parent" --filter items)
   if [[ $items ]]; then
     _qvbrowse_offer <<<"$items"
   else
     compopt -o nospace
-    _qvbrowse_offer / < <(_qvbrowse_values path ls "$1" "$parent")
+    _qvbrowse_offer / < <(_qvbrowse_children "$1" "$parent")
   fi
 }
 
@@ -52,7 +57,7 @@ _qvbrowse() {
       --module | --tools)
         ((++i < cword)) && sources+=("$word" "$(_qvbrowse_expand "${words[i]}")") ;;
       --module=* | --tools=*) sources+=("$word") ;;
-      --depth | --filter) ((++i)) ;;
+      --color | --depth | --filter | --plugin-timeout) ((++i)) ;;
       -*) ;;
       *) if [[ $command ]]; then arguments+=("$word"); else command=("$word"); fi ;;
     esac
@@ -71,14 +76,15 @@ _qvbrowse() {
       return
       ;;
     --filter) _qvbrowse_offer <<<$'all\nitems'; return ;;
-    --depth) return ;;
+    --color) _qvbrowse_offer <<<$'auto\nalways\nnever'; return ;;
+    --depth | --plugin-timeout) return ;;
   esac
   if [[ $cur == -* ]]; then
     _qvbrowse_offer < <({ _qvbrowse_run --help; _qvbrowse_run "${command[@]}" --help; } |
-      sed -n 's/^  \(-h,\)\?\(--[a-z-]*\).*/\2/p' | sort -u)
+      sed -n 's/^  \(-[hV],\)\?\(--[a-z-]*\).*/\2/p' | sort -u)
     return
   elif [[ ! $command ]]; then
-    _qvbrowse_offer < <(_qvbrowse_run --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p')
+    _qvbrowse_offer < <(_qvbrowse_run --help | sed -n '/^Commands:/,/^$/s/^  \([a-z-]*\) .*/\1/p')
     return
   fi
 
