@@ -32,9 +32,10 @@ namespace {
 /// The views that this window can open.
 ToolSource windowViews() {
   ToolSource source;
-  source.views = {{"toolDetail", "Tool Detail", "The detail page of what is selected"},
-                  {"startupJournal", "Start-up Journal", "What the module did while it started"},
-                  {"packages", "Packages", "The packages and their build information"}};
+  source.views = {
+      {"toolDetail", "Tool Detail", "The detail page of the tool that was selected last"},
+      {"startupJournal", "Start-up Journal", "What the module did while it started"},
+      {"packages", "Packages", "The packages and their build information"}};
   return source;
 }
 
@@ -422,7 +423,12 @@ void BrowserWindow::select(RCShdPtr<BrBrowsable> const& item) {
   failures_.guard([&] {
     RCShdPtr<BrBrowsable> const shownItem = item ? item : container_;
     path_->setText(QString::fromStdString(shownItem->getPath()));
-    detail_->show(shownItem);
+    if (detail_->show(shownItem)) {
+      detailed_ = shownItem;
+      for (QWidget* const widget : workspace_->findChildren<QWidget*>())
+        if (auto* const view = dynamic_cast<DetailView*>(widget))
+          view->show(detailed_);
+    }
     setWindowTitle(shown(getAttribute(*shownItem, BrBrowsable::NAME)) + " - Asset Browser");
   });
 }
@@ -471,7 +477,7 @@ void BrowserWindow::perform(std::string const& action, RCShdPtr<BrBrowsable> con
 QWidget* BrowserWindow::makeView(std::string const& name) {
   if (name == "toolDetail") {
     auto* const view = new DetailView(failures_);
-    view->show(selected_);
+    view->show(detailed_);
     return view;
   }
   if (name == "startupJournal")

@@ -79,6 +79,8 @@ private:
   /// What the list shows the children of, what is selected in it, and what is to be selected.
   RCShdPtr<BrBrowsable> container_;
   RCShdPtr<BrBrowsable> selected_;
+  /// The last selected item that has a detail page, for the views of that.
+  RCShdPtr<BrBrowsable> detailed_;
   std::optional<std::string> wanted_;
   int wantedOccurrence_ = 0;
   std::optional<int> scrollBack_;

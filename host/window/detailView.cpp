@@ -81,7 +81,7 @@ void DetailView::close() {
   page_.reset();
 }
 
-void DetailView::show(RCShdPtr<BrBrowsable> const& item) {
+bool DetailView::show(RCShdPtr<BrBrowsable> const& item) {
   thumbnail_->clear();
   thumbnail_->show();
   title_->setText("Select an item to see its details.");
@@ -89,7 +89,9 @@ void DetailView::show(RCShdPtr<BrBrowsable> const& item) {
     surface_->hide();
   if (item)
     failures_.guard([&] { showPage(item); });
-  title_->setVisible(!surface_ || !surface_->isVisibleTo(this));
+  bool const hasPage = surface_ && surface_->isVisibleTo(this);
+  title_->setVisible(!hasPage);
+  return hasPage;
 }
 
 void DetailView::showPage(RCShdPtr<BrBrowsable> const& item) {

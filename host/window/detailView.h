@@ -17,8 +17,8 @@ public:
   explicit DetailView(Failures& failures);
   ~DetailView() override;
 
-  /// Null shows that nothing is selected.
-  void show(RCShdPtr<BrBrowsable> const& item);
+  /// Null shows that nothing is selected. @returns whether the item has a page.
+  bool show(RCShdPtr<BrBrowsable> const& item);
 
 private:
   /// A widget of the page with the one that draws it.

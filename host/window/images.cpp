@@ -20,16 +20,17 @@ QImage toImage(RCShdPtr<WsManagedImage> const& image) {
 QIcon Icons::find(BrBrowsable& item, double pixelRatio) {
   HostBrRegistry const& registry = HostBrRegistry::getInstance();
   RCShdPtr<WsManagedImage> icon;
+  RCShdPtr<WsManagedImage> thumbnail;
   if (std::string scheme = item.getSchemeName(); item.getPath().empty() && !scheme.empty()) {
     // Under which name packages register the icon of a scheme.
     scheme[0] = char(std::toupper(static_cast<unsigned char>(scheme[0])));
     icon = registry.getIcon(scheme + "SchemeIcon");
   }
-  if (!icon)
+  if (!icon) {
     icon = registry.getIcon(getAttribute(item, BrBrowsable::BROWSABLE_TYPE));
-  RCShdPtr<WsManagedImage> thumbnail;
-  if (pixelRatio > 1)
-    thumbnail = item.getImage(int(BrBrowsable::THUMBNAIL), {128, 128});
+    if (pixelRatio > 1)
+      thumbnail = item.getImage(int(BrBrowsable::THUMBNAIL), {128, 128});
+  }
 
   auto const [entry, added] =
       entries_.try_emplace({icon.get(), thumbnail.get()}, Entry{icon, thumbnail, QIcon()});

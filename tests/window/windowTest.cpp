@@ -170,6 +170,36 @@ TEST_F(Window, opensViewsFromTheMenu) {
   EXPECT_EQ(std::count(titles.begin(), titles.end(), "Packages"), 1);
 }
 
+TEST_F(Window, keepsTheToolDetailOnTheLastTool) {
+  open(Catalogue, {"tools", "Wood/saw"});
+  settle([&] { window()->goTo("views", "toolDetail"); });
+  QTest::keyClick(&list(), Qt::Key_Return);
+  auto& workspace = find<Workspace>("Workspace");
+  auto const& box = *workspace.currentWidget()->findChild<QPlainTextEdit*>();
+  EXPECT_EQ(box.toPlainText(), "Cuts\nacross.");
+  settle([&] { window()->goTo("tools", "Metal/file"); });
+  EXPECT_EQ(box.toPlainText(), "");
+  QTest::keyClick(window(), Qt::Key_W, Qt::ControlModifier);
+  EXPECT_EQ(workspace.count(), 1);
+}
+
+TEST_F(Window, followsADarkPalette) {
+  QPalette const before = QApplication::palette();
+  QPalette dark(QColor("#202020"));
+  QApplication::setPalette(dark);
+  open(Catalogue, {"tools", "Wood"});
+  list().clearSelection();
+  QImage const picture = list().viewport()->grab().toImage();
+  EXPECT_LT(picture.pixelColor(picture.width() - 2, 2).lightness(), 80);
+  QRect const text = list().visualRect(list().model()->index(0, 1));
+  int lightest = 0;
+  for (int x = text.left(); x < text.right(); ++x)
+    lightest = std::max(lightest, picture.pixelColor(x, text.center().y()).lightness());
+  EXPECT_GT(lightest, 180);
+  close();
+  QApplication::setPalette(before);
+}
+
 TEST_F(Window, dropsWhatTheHandlerLetsGo) {
   struct Case {
     BrowserWindow::Start start;
