@@ -75,7 +75,7 @@ void ListView::startDrag(Qt::DropActions /*actions*/) {
     QPointer<CarrierData> const held(data);
     auto* const drag = new QDrag(this);
     drag->setMimeData(data);
-    QIcon const icon =
+    auto const icon =
         list_.data(list_.index(currentIndex().row(), 0), Qt::DecorationRole).value<QIcon>();
     drag->setPixmap(icon.pixmap(iconSize()));
     drag->exec(Qt::CopyAction);

@@ -45,13 +45,7 @@ int run(int argc, char** argv, Options const& options) {
   return QApplication::exec();
 }
 
-} // namespace
-
-} // namespace Qv
-
-int main(int argc, char** argv) {
-  using namespace Qv;
-
+int start(int argc, char** argv) {
   CLI::App app("Browses the schemes that a module adds to the asset browser, in a window.",
                "qvwindow");
   Options options;
@@ -76,10 +70,18 @@ int main(int argc, char** argv) {
     std::cerr << "qvwindow: " << error.what() << "; see --help\n";
     return 2;
   }
+  return run(argc, argv, options);
+}
+
+} // namespace
+
+} // namespace Qv
+
+int main(int argc, char** argv) {
   try {
-    return run(argc, argv, options);
-  } catch (std::exception const& error) {
-    std::cerr << "qvwindow: " << error.what() << '\n';
-    return 1;
+    return Qv::start(argc, argv);
+  } catch (...) {
+    std::cerr << "qvwindow: " << Qv::describeException() << '\n';
   }
+  return 1;
 }
