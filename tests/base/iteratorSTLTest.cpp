@@ -1,5 +1,5 @@
-#include "noLeaks.h"
 #include "iteratorSTL.imp.h"
+#include "noLeaks.h"
 #include "thrown.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "iterator.h"
-#include "noLeaks.h"
 #include "fakeEngine.h"
+#include "noLeaks.h"
 #include "thrown.h"
 
 namespace Qv {

@@ -2,7 +2,6 @@
 
 #include "pbrInstances.h"
 
-#include "noLeaks.h"
 #include "assertions.h"
 #include "hostBrRegistry.h"
 #include "hostImage.h"
@@ -12,6 +11,7 @@
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
 #include "hostViewFactory.h"
+#include "noLeaks.h"
 #include "pbrToolBrowsable.h"
 #include "pbrToolServer.h"
 #include "pbrViewBrowsable.h"

@@ -1,5 +1,5 @@
-#include "noLeaks.h"
 #include "hostResources.h"
+#include "noLeaks.h"
 #include "refusal.h"
 #include "temporaryDirectory.h"
 #include "uiResTable.h"
