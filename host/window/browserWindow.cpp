@@ -1,6 +1,7 @@
 #include "browserWindow.h"
 
 #include "actions.h"
+#include "lookup.h"
 #include "text.h"
 
 #include "hostBrRegistry.h"
@@ -362,7 +363,7 @@ void BrowserWindow::goTo(std::string const& scheme, std::string const& path) {
     QModelIndex const nearest = tree_->findNearest(scheme, names);
     std::size_t const depth = splitPath(tree_->getItem(nearest)->getPath()).size();
     if (depth + 1 < names.size())
-      throw std::invalid_argument(fmt::format("no item \"{}\" is listed", path));
+      findListedItems(scheme, {path}); // Says what is not listed.
     wanted_.reset();
     if (depth < names.size())
       wanted_ = joinPath(names);
@@ -395,8 +396,13 @@ void BrowserWindow::listChanged() {
   int row = -1;
   if (wanted_) {
     row = list_->findRow(*wanted_);
-    if (row < 0)
-      refusal_->setText(shown(fmt::format("no item \"{}\" is listed", *wanted_)));
+    if (row < 0) {
+      try {
+        findListedItems(container_->getSchemeName(), {*wanted_});
+      } catch (...) {
+        refusal_->setText(shown(describeException()));
+      }
+    }
   }
   wanted_.reset();
   if (row >= 0)

@@ -11,7 +11,7 @@ namespace Qv {
 
 SearchView::SearchView(Failures& failures, Report report, GoTo goTo)
     : failures_(failures), report_(std::move(report)), goTo_(std::move(goTo)) {
-  setUpTable(*this, {"Name", "Type", "Path"}, "Hits");
+  setUpTable(*this, {"Name", "Type", "Path", "Found"}, "Hits");
   connect(this, &QTableWidget::itemActivated, this, [this](QTableWidgetItem const* cell) {
     failures_.guard([&] { goTo_(root_->getSchemeName(), paths_[std::size_t(cell->row())]); });
   });
@@ -65,7 +65,8 @@ void SearchView::list() {
     BrBrowsable& item = *found[hit].item;
     paths_.push_back(item.getPath());
     addRow(*this, {getAttribute(item, BrBrowsable::NAME),
-                   getAttribute(item, BrBrowsable::BROWSABLE_TYPE), item.getPath()});
+                   getAttribute(item, BrBrowsable::BROWSABLE_TYPE), item.getPath(),
+                   found[hit].title + (found[hit].title.empty() ? "" : ": ") + found[hit].text});
   }
   report_(found.size() > Most
               ? fmt::format("{} hits, the first {} are listed", found.size(), Most)

@@ -70,10 +70,12 @@ TEST_F(Window, goesWhereATypedPathLeads) {
        std::vector<Case>{{"Wood", wood, "", ""},
                          {"/Wood//saw/", wood, "saw", ""},
                          {"", root, "", ""},
-                         {"Wood/mill", wood, "", "no item \"Wood/mill\" is listed"},
+                         {"Wood/mill", wood, "", "tools: no item \"Wood/mill\" is listed"},
+                         {"Wood/sow", wood, "",
+                          "tools: no item \"Wood/sow\" is listed; did you mean \"Wood/saw\"?"},
                          {"Metal", {"file"}, "", ""},
                          {"a/b/c", {"file"}, "", "tools: \"a/b/c\" has more than 2 components"},
-                         {"Stone/axe", {"file"}, "", "no item \"Stone/axe\" is listed"}}) {
+                         {"Stone/axe", {"file"}, "", "tools: no item \"Stone/axe\" is listed"}}) {
     settle([&] {
       auto& path = find<QLineEdit>("Path");
       path.clear();
@@ -82,7 +84,7 @@ TEST_F(Window, goesWhereATypedPathLeads) {
     });
     EXPECT_EQ(texts(*list().model()), test.listed) << test.typed;
     EXPECT_EQ(list().currentIndex().data().toString(), test.selected) << test.typed;
-    EXPECT_EQ(find<QLabel>("Why the path is refused").text(), test.refusal);
+    EXPECT_EQ(find<QLabel>("Why the path is refused").text().toStdString(), test.refusal);
   }
 }
 
