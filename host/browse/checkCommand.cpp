@@ -40,11 +40,11 @@ void make(Json& check, unsigned seconds) {
   std::string const where = line == lines.rend() ? "" : line->substr(1);
   std::string happened = result == 'L' ? "" : lines.back().substr(1);
   if (WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM)
-    happened = fmt::format("it is not done after {} seconds", seconds);
+    happened = fmt::format("not done after {} seconds", seconds);
   else if (WIFSIGNALED(status))
-    happened = fmt::format("it ends the process: {}", strsignal(WTERMSIG(status)));
+    happened = fmt::format("ends the process: {}", strsignal(WTERMSIG(status)));
   else if (result == 'L')
-    happened = fmt::format("it ends the process with status {}", WEXITSTATUS(status));
+    happened = fmt::format("ends the process with status {}", WEXITSTATUS(status));
   bool const failed = result == 'L' || result == 'F' || WIFSIGNALED(status);
   check["result"] = failed ? "fail" : result == 'P' ? "pass" : "skipped";
   check["happened"] = failed && !where.empty() ? where + ": " + happened : happened;
@@ -64,14 +64,14 @@ Json listChecks(std::string const& only) {
   if (lines.empty())
     throw std::runtime_error("cannot start qvcheck, which makes the checks");
   if (checks.empty())
-    throw std::invalid_argument(fmt::format("no check's name begins with \"{}\"", only));
+    throw std::invalid_argument(fmt::format("no check's name starts with \"{}\"", only));
   return checks;
 }
 
 ExitStatus checkModule(Options const& options, std::optional<fs::path> const& module,
                        Output& output) {
   if (module && !fs::is_regular_file(*module))
-    throw std::invalid_argument(fmt::format("there is no module file \"{}\"", module->string()));
+    throw std::invalid_argument(fmt::format("no such module file: \"{}\"", module->string()));
   fs::path const own = fs::read_symlink("/proc/self/exe").parent_path();
   setenv("QV_CHECKER", (own / QV_CHECKER).c_str(), 1);
   setenv("QV_MODULE", module ? module->c_str() : "", 1);
@@ -85,7 +85,7 @@ ExitStatus checkModule(Options const& options, std::optional<fs::path> const& mo
     if (needed.empty())
       make(check, options.seconds);
     else
-      check.update({{"result", "skipped"}, {"happened", "it needs " + needed}});
+      check.update({{"result", "skipped"}, {"happened", "needs " + needed}});
     if (check["result"] != "fail")
       continue;
     problems +=
@@ -106,16 +106,16 @@ ExitStatus checkModule(Options const& options, std::optional<fs::path> const& mo
 
 void addCheckCommand(Program& program) {
   auto const options = std::make_shared<Options>();
-  CLI::App& command = program.addCommand("check", "Check the module for what is wrong with it",
+  CLI::App& command = program.addCommand("check", "Check that a module keeps the contract",
                                          PluginUse::None, Program::Command());
   command.callback([&program, options] {
     program.runWithoutSession([&program, options](Output& output) {
       return checkModule(*options, program.getSessionOptions().module, output);
     });
   });
-  command.add_option("--only", options->only, "Only the checks whose names begin so")
+  command.add_option("--only", options->only, "Only the checks whose names start with NAME")
       ->option_text("NAME");
-  command.add_option("--time", options->seconds, "How long each check may take, by default 60")
+  command.add_option("--time", options->seconds, "The time limit of each check, by default 60")
       ->check(CLI::Range(1, 3600))
       ->option_text("SECONDS");
 }

@@ -33,7 +33,7 @@ bool failCall(std::function<std::string()> const& use, std::size_t index) {
   bool const reached = journal.getEntries().size() > index;
   if (reached) {
     std::string const failure = journal.getEntries()[index].operation + ": injected failure";
-    require(thrown == failure, "call {} fails ({}), and {} comes out", index + 1, failure, thrown);
+    require(thrown == failure, "call {} fails ({}), but {} is thrown", index + 1, failure, thrown);
   }
   journal.start();
   journal.stop();
@@ -121,16 +121,16 @@ std::string sweepFailures(std::function<std::string()> const& use) {
   long const live = liveAllocations();
   failCall(use, std::size_t(-1));
   if (liveAllocations() != live)
-    throw Skipped("something is lost without a failure, too");
+    throw Skipped("leaks even without a failure");
 
   auto const check = [&] {
-    require(registered() == before, "the registries do not hold what they held before");
-    require(use() == expected, "the next run does not find what the first one found");
+    require(registered() == before, "the registries have changed");
+    require(use() == expected, "the next run differs from the first");
   };
   std::size_t calls = 0;
   for (; failCall(use, calls); ++calls) {
     check();
-    require(liveAllocations() == live, "call {} failed; allocations lost: {}", calls + 1,
+    require(liveAllocations() == live, "allocations leaked when call {} failed: {}", calls + 1,
             liveAllocations() - live);
   }
   constexpr int Most = 3000;

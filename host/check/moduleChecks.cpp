@@ -48,10 +48,10 @@ std::string checkImports() {
         missing.insert(boost::core::demangle(name.c_str()));
     }
   }
-  require(missing.empty(), "nothing provides {}", fmt::join(missing, ", "));
+  require(missing.empty(), "no library provides {}", fmt::join(missing, ", "));
   bool const loaded = dlopen(moduleFile().c_str(), RTLD_NOW);
   require(loaded, "{}", loaded ? "" : dlerror());
-  return "all of them are there";
+  return "all found";
 }
 
 std::string checkPackages() {
@@ -66,13 +66,13 @@ std::string checkPackages() {
   for (std::size_t index = hosts; index < manager.getPackages().size(); ++index) {
     InPackageInit const& package = *manager.getPackages()[index];
     if (!names.insert(package.getName()).second)
-      problems.push_back(fmt::format("there is a package \"{}\" already", package.getName()));
+      problems.push_back(fmt::format("duplicate package \"{}\"", package.getName()));
     for (std::type_info const* const needed : package.getDependencies())
       if (!manager.find(*needed))
         problems.push_back("no loaded library provides the package " + typeName(*needed));
   }
   require(problems.empty(), "{}", fmt::join(problems, "; "));
-  require(names.size() > hosts, "it registers no package");
+  require(names.size() > hosts, "registers no package");
   return fmt::format("{} registered", names.size() - hosts);
 }
 
@@ -97,7 +97,7 @@ template <class T> [[gnu::no_sanitize_address]] int compareTable(T const& object
       dlsym(RTLD_DEFAULT, (std::string("_ZTV") + typeid(T).name()).c_str()));
   Dl_info library;
   void* symbol = nullptr;
-  require(host && dladdr1(host, &library, &symbol, RTLD_DL_SYMENT), "the host has no table of {}",
+  require(host && dladdr1(host, &library, &symbol, RTLD_DL_SYMENT), "the host has no vtable of {}",
           typeName(typeid(T)));
   lookAt(typeName(typeid(object)));
   auto const* const table = *reinterpret_cast<void* const* const*>(&object);
@@ -108,9 +108,9 @@ template <class T> [[gnu::no_sanitize_address]] int compareTable(T const& object
     if (!host[word + 2])
       continue;
     Dl_info function;
-    require(dladdr(table[word], &function) != 0, "word {} of its table is not a function", word);
+    require(dladdr(table[word], &function) != 0, "word {} of its vtable is not a function", word);
     require(table[word] == host[word + 2] || function.dli_fbase != library.dli_fbase,
-            "word {} of its table is {}, which {} has in another place", word,
+            "word {} of its vtable is {}, which is elsewhere in that of {}", word,
             function.dli_sname ? boost::core::demangle(function.dli_sname) : "a hidden function",
             typeName(typeid(T)));
   }
@@ -131,7 +131,7 @@ std::string checkSlots() {
   for (auto const& [action, state] : HostActRegistry::getInstance().getEntries())
     if (auto const* const typed = dynamic_cast<BrowserAction const*>(action.get()))
       count += compareTable<BrowserAction>(*typed);
-  return fmt::format("the tables of {} objects", count);
+  return fmt::format("vtables of {} objects", count);
 }
 
 /// What the process holds.
@@ -155,11 +155,11 @@ std::string checkRepeats() {
     start();
   Holdings const after;
   require(!dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_NOLOAD),
-          "it stays in memory; g++ needs -fno-gnu-unique");
+          "stays in memory after it is unloaded; g++ needs -fno-gnu-unique");
   // The allocator maps on its own account, but not at each start.
   require(after.allocations == before.allocations && after.threads == before.threads &&
               after.mappings - before.mappings < Times,
-          "{} starts leave {} allocations, {} threads and {} mappings", Times,
+          "{} starts leak {} allocations, {} threads and {} mappings", Times,
           after.allocations - before.allocations, after.threads - before.threads,
           after.mappings - before.mappings);
   return fmt::format("{} starts", Times);
@@ -169,17 +169,16 @@ std::string checkRepeats() {
 
 std::vector<Check> moduleChecks() {
   constexpr char const* Packages = "Packages (`libQVbase`; `getType` in each of the nine)";
-  return {
-      {"file.imports", "A library provides each name that the file imports.", "Symbols",
-       checkImports, false},
-      {"file.packages", "It registers packages, and those that it needs are there.", Packages,
-       checkPackages, false},
-      {"start.initialises", "It is loaded and initialised.", Packages, checkStart, false},
-      {"start.slots", "What its classes inherit has the host's places in their tables.", "Slots",
-       checkSlots},
-      {"start.failures", "A failure ends the start, loses nothing, and is not met again.",
-       "What may be thrown", [] { return sweepFailures(start); }, false},
-      {"start.repeats", "When it is unloaded, nothing stays.", "Lifetimes", checkRepeats, false}};
+  return {{"file.imports", "Every imported name is provided by a library.", "Symbols", checkImports,
+           false},
+          {"file.packages", "It registers packages whose dependencies exist.", Packages,
+           checkPackages, false},
+          {"start.initialises", "It loads and initialises.", Packages, checkStart, false},
+          {"start.slots", "Inherited functions are in the host's slots of its vtables.", "Slots",
+           checkSlots},
+          {"start.failures", "A failed start throws and leaks nothing, and the next one succeeds.",
+           "What may be thrown", [] { return sweepFailures(start); }, false},
+          {"start.repeats", "Unloading leaves nothing behind.", "Lifetimes", checkRepeats, false}};
 }
 
 } // namespace Qv

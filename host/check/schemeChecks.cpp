@@ -13,7 +13,7 @@ namespace {
 template <void check(BrServer&)> std::string forEachServer() {
   auto const& servers = HostBrRegistry::getInstance().getServers();
   if (servers.empty())
-    throw Skipped("it registers no scheme");
+    throw Skipped("registers no scheme");
   for (OPtr<BrServer> const& server : servers) {
     lookAt(server->getSchemeName());
     check(*server);
@@ -49,9 +49,9 @@ void checkClone(BrServer& server) {
   OPtr<BrServer> const clone(server.clone());
   require(clone.get() && clone.get() != &server, "clone returns no new server");
   std::string const columns = describeColumns(server);
-  require(describeColumns(*clone) == columns, "its clone has other columns");
+  require(describeColumns(*clone) == columns, "its clone has different columns");
   clone->getAttributesList()->append(clone->getAttributesList()->getAttribs().at(0));
-  require(describeColumns(server) == columns, "a column added to its clone is added to it");
+  require(describeColumns(server) == columns, "a column added to its clone is added to it as well");
 }
 
 void checkRoot(BrServer& server) {
@@ -89,11 +89,11 @@ void checkPaths(BrServer& server) {
 }
 
 void checkAnswers(Item const& item) {
-  require(read(*item).find(Unanswered) == std::string::npos, "it leaves an attribute unanswered");
+  require(read(*item).find(Unanswered) == std::string::npos, "does not answer for an attribute");
   for (unsigned int const id : {BrBrowsable::NAME, BrBrowsable::BROWSABLE_TYPE}) {
     LiString text;
     item->get(int(id), &text);
-    require(!text.empty(), "its name or its type is empty");
+    require(!text.empty(), "its name or type is empty");
   }
 }
 
@@ -101,11 +101,11 @@ void checkChildren(Item const& item) {
   Items const children = nextSequence(*item->getChildren(AllChildren));
   if (children.empty())
     return;
-  require(item->isAContainer(), "it is not a container, and has {} children", children.size());
+  require(item->isAContainer(), "is not a container but has {} children", children.size());
   for (int const option : {0, 1})
     require(
         item->hasChildren(BrBrowsable::ChildSearchType(0), BrBrowsable::ChildSearchOption(option)),
-        "hasChildren denies the {} that its query lists", children.size());
+        "hasChildren denies the {} children that its query lists", children.size());
 }
 
 void checkSequences(Item const& item) {
@@ -117,23 +117,24 @@ void checkSequences(Item const& item) {
     Items const again = nextSequence(*query);
     require(std::equal(children.begin(), children.end(), again.begin(), again.end(),
                        [](Item const& a, Item const& b) { return a->isEqualTo(*b); }),
-            "after reset, its query lists {} others, not the {} of before", again.size(),
+            "after reset, its query lists {} items that differ from the {} before", again.size(),
             children.size());
   }
 }
 
 void checkPath(Item const& item) {
   Item const found = itemAt(*item->getServer(), item->getPath());
-  require(found->isEqualTo(*item) && read(*found) == read(*item), "another item is at its path");
+  require(found->isEqualTo(*item) && read(*found) == read(*item),
+          "a different item is at its path");
 }
 
 void checkEquality(Item const& item) {
-  require(item->isEqualTo(*item), "it does not equal itself");
+  require(item->isEqualTo(*item), "does not equal itself");
   for (Item const& other : findItems())
     // Of one of another scheme, it may say anything.
     require(item->isEqualTo(*other) == other->isEqualTo(*item) ||
                 other->getServer() != item->getServer(),
-            "whether it equals \"{}\" depends on which is asked", other->getPath());
+            "whether it equals \"{}\" depends on which of the two is asked", other->getPath());
 }
 
 std::string browse() {
@@ -153,37 +154,38 @@ std::string checkLifetimes() {
   browse();
   long const before = liveAllocations();
   browse();
-  require(liveAllocations() == before, "{} allocations live on", liveAllocations() - before);
-  return "nothing lives on";
+  require(liveAllocations() == before, "{} allocations leaked", liveAllocations() - before);
+  return "nothing leaked";
 }
 
 } // namespace
 
 std::vector<Check> schemeChecks() {
-  return {
-      {"schemes.columns", "A scheme has columns, and one of them is the sort key.", "Schemes",
-       forEachServer<checkColumns>},
-      {"schemes.clone", "A clone equals its server, and shares nothing with it.", "Schemes",
-       forEachServer<checkClone>},
-      {"schemes.root", "A scheme has a root, which is a container.", "Schemes",
-       forEachServer<checkRoot>},
-      {"schemes.paths", "A path leads to an item, or to an exception of the base library.",
-       "Schemes", forEachServer<checkPaths>},
-      {"items.answers", "An item answers for any attribute, image and tooltip.", "Items",
-       [] { return forEachItem(checkAnswers); }},
-      {"items.children", "An item with children is a container, and says that it has some.",
-       "Items", [] { return forEachItem(checkChildren); }},
-      {"items.sequences", "A query lists all children at once, then none, then all again.", "Items",
-       [] { return forEachItem(checkSequences); }},
-      {"items.path", "At the path of an item there is an equal one.", "Items",
-       [] { return forEachItem(checkPath); }},
-      {"items.equality", "Two items of a scheme agree whether they are equal.", "Items",
-       [] { return forEachItem(checkEquality); }},
-      {"items.lifetimes", "What was browsed goes when it is let go.", "Lifetimes", checkLifetimes},
-      {"items.failures", "A failure ends the browsing, loses nothing, and is not met again.",
-       "What may be thrown", [] {
-         return fmt::format("{}, with at most {} items", sweepFailures(browse), MaxSweptItems);
-       }}};
+  return {{"schemes.columns", "A scheme has columns, and one of them is the sort key.", "Schemes",
+           forEachServer<checkColumns>},
+          {"schemes.clone", "A clone equals its server but shares nothing with it.", "Schemes",
+           forEachServer<checkClone>},
+          {"schemes.root", "A scheme has a root that is a container.", "Schemes",
+           forEachServer<checkRoot>},
+          {"schemes.paths", "Any path yields an item or an exception of the base library.",
+           "Schemes", forEachServer<checkPaths>},
+          {"items.answers", "An item answers for any attribute, image and tooltip.", "Items",
+           [] { return forEachItem(checkAnswers); }},
+          {"items.children", "An item with children is a container and reports them.", "Items",
+           [] { return forEachItem(checkChildren); }},
+          {"items.sequences",
+           "A query returns all children at once, then none; after reset, the same again.", "Items",
+           [] { return forEachItem(checkSequences); }},
+          {"items.path", "The path of an item leads to an equal item.", "Items",
+           [] { return forEachItem(checkPath); }},
+          {"items.equality", "Equality within a scheme is symmetric.", "Items",
+           [] { return forEachItem(checkEquality); }},
+          {"items.lifetimes", "Released items are destroyed.", "Lifetimes", checkLifetimes},
+          {"items.failures",
+           "A failure while browsing throws, leaks nothing, and does not affect the next run.",
+           "What may be thrown", [] {
+             return fmt::format("{}, with at most {} items", sweepFailures(browse), MaxSweptItems);
+           }}};
 }
 
 } // namespace Qv

@@ -20,7 +20,7 @@ std::string dragItem(Item const& item) {
   if (!carrier)
     return "";
   auto const& items = carrier->getSelection()->getItems();
-  require(!items.empty(), "it can be dragged, and nothing arrives");
+  require(!items.empty(), "it can be dragged, but nothing arrives");
   for (RCShdPtr<SnItem const> const& dragged : items)
     require(dragged->isEqual(*RCShdPtr<SnItem>(dragged->clone())),
             "what arrives does not equal its clone");
@@ -136,7 +136,7 @@ std::string checkFailures() {
     if (!use().empty())
       result += (result.empty() ? "" : "; ") + sweepFailures(use);
   if (result.empty())
-    throw Skipped("nothing can be done with its items");
+    throw Skipped("its items can neither be dragged, shown nor acted on");
   return fmt::format("{}, with at most {} items", result, MaxSweptItems);
 }
 
@@ -145,19 +145,18 @@ std::string checkFailures() {
 std::vector<Check> useChecks() {
   constexpr char const* Heading = "Drags, pages and actions";
   return {{"use.drags",
-           "A handler takes any item and carrier, or throws an exception of the base "
-           "library; what can be dragged arrives.",
+           "A handler accepts any item and carrier, or throws an exception of the base library; "
+           "what can be dragged arrives.",
            Heading, checkDrags},
           {"use.details",
-           "A view takes any item at any time, or throws an exception of the base "
-           "library.",
+           "A view accepts any item at any time, or throws an exception of the base library.",
            Heading, checkDetails},
           {"use.actions",
-           "An action takes any node, also without a workspace, or throws an exception "
-           "of the base library.",
+           "An action accepts any node, with or without a workspace, or throws an exception of the "
+           "base library.",
            Heading, checkActions},
           {"use.failures",
-           "A failure ends a drag, page or action, loses nothing, and is not met again.",
+           "A failed drag, page or action throws, leaks nothing, and does not affect the next run.",
            "What may be thrown", checkFailures}};
 }
 

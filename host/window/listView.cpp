@@ -7,10 +7,30 @@
 #include <QDrag>
 #include <QHeaderView>
 #include <QPointer>
+#include <QStyledItemDelegate>
 
 namespace Qv {
 
-ListView::ListView(Failures& failures, ListModel& list) : failures_(failures), list_(list) {
+namespace {
+
+/// Draws an icon in the whole of its cell, since a column of icons has no room for margins.
+class IconDelegate : public QStyledItemDelegate {
+public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, QStyleOptionViewItem const& option,
+             QModelIndex const& index) const override {
+    QStyleOptionViewItem cell = option;
+    cell.decorationSize = {0, 0};
+    QStyledItemDelegate::paint(painter, cell, index);
+    index.data(Qt::DecorationRole).value<QIcon>().paint(painter, option.rect);
+  }
+};
+
+} // namespace
+
+ListView::ListView(Failures& failures, ListModel& list)
+    : failures_(failures), list_(list), icons_(new IconDelegate(this)) {
   setModel(&list);
   setAccessibleName("Items");
   setSelectionBehavior(SelectRows);
@@ -49,6 +69,8 @@ void ListView::setColumns() {
     header.setSectionResizeMode(int(section),
                                 resizable ? QHeaderView::Interactive : QHeaderView::Fixed);
     header.resizeSection(int(section), column.getCurrentW());
+    setItemDelegateForColumn(int(section),
+                             column.getDataType() == BrBrowsable::ICON ? icons_ : nullptr);
   }
   header.setSortIndicator(list_.getMainColumn(), Qt::AscendingOrder);
 }

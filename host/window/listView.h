@@ -22,6 +22,7 @@ protected:
 private:
   Failures& failures_;
   ListModel& list_;
+  QAbstractItemDelegate* icons_;
 };
 
 } // namespace Qv
