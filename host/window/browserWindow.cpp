@@ -95,6 +95,8 @@ QSplitter* makeSplitter(Qt::Orientation orientation, std::initializer_list<QWidg
 struct BrowserWindow::Sources {
   std::vector<ToolSource> sources;
   std::string failure;
+  /// What was done without, for instance the cache.
+  std::string notice;
 };
 
 BrowserWindow::BrowserWindow(std::optional<Session>& session, Session::Options options, Start start)
@@ -280,8 +282,9 @@ void BrowserWindow::refresh(bool retry) {
       throw std::runtime_error("the window is closed");
     post([this, text] { say(text); });
   };
-  reader_ = std::thread([this, options, post] {
-    auto const result = std::make_shared<Sources>();
+  auto const result = std::make_shared<Sources>();
+  options.scan.notice = [result](std::string const& text) { result->notice = text; };
+  reader_ = std::thread([this, options, post, result] {
     try {
       result->sources = Session::read(options);
     } catch (...) {
@@ -308,7 +311,7 @@ void BrowserWindow::takeSources(Sources sources) {
       sources.failure = describeException();
     }
   }
-  say(sources.failure);
+  say(sources.failure.empty() ? sources.notice : sources.failure);
   if (!sources.failure.empty()) {
     if (!session_)
       showEmpty(shown(sources.failure, Place::Box) + "\n\nF5 tries again.");
