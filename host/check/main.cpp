@@ -1,10 +1,10 @@
 // Makes one check of a module file, in a process of its own.
 //
-//   qvcheck                        lists the checks, three lines each
+//   qvcheck                        lists the checks, each as a line of JSON
 //   qvcheck NAME SECONDS MODULE    makes one; an empty MODULE is that of this project
 //
 // Each line that it writes then starts with a letter: L is what is being looked at. The last one is
-// what came of it: P passed, F failed or S skipped.
+// what came of it, and says something: P passed, F failed or S skipped.
 
 #include "check.h"
 
@@ -84,7 +84,10 @@ int main(int argc, char** argv) {
     checks.insert(checks.end(), group.begin(), group.end());
   if (argc < 4) {
     for (Check const& check : checks)
-      fmt::print("{}\n{}\n{}\n", check.name, check.expected, check.heading);
+      fmt::print(R"({{"check":"{}","result":"","happened":"","expected":"{}",)"
+                 R"("see":"docs/host-contract.md, \"{}\""}})"
+                 "\n",
+                 check.name, check.expected, check.heading);
     return EXIT_SUCCESS;
   }
   alarm(unsigned(std::atoi(argv[2]))); // NOLINT(cert-err34-c): qvbrowse writes a number.

@@ -134,34 +134,26 @@ std::string checkSlots() {
   return fmt::format("vtables of {} objects", count);
 }
 
-/// What the process holds.
-struct Holdings {
-  long allocations = liveAllocations();
-  std::ptrdiff_t threads =
-      std::distance(fs::directory_iterator("/proc/self/task"), fs::directory_iterator());
-  std::ptrdiff_t mappings = countLines("/proc/self/maps");
-
-  static std::ptrdiff_t countLines(char const* name) {
-    std::ifstream stream(name);
-    return std::count(std::istreambuf_iterator<char>(stream), {}, '\n');
-  }
-};
-
 std::string checkRepeats() {
   constexpr int Times = 100;
+  auto const count = [] {
+    std::ifstream maps("/proc/self/maps");
+    return std::array<long, 3>{
+        liveAllocations(),
+        std::distance(fs::directory_iterator("/proc/self/task"), fs::directory_iterator()),
+        std::count(std::istreambuf_iterator<char>(maps), {}, '\n')};
+  };
   start();
-  Holdings const before;
+  auto const [allocations, threads, mappings] = count();
   for (int time = 0; time < Times; ++time)
     start();
-  Holdings const after;
+  auto const [allocationsNow, threadsNow, mappingsNow] = count();
   require(!dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_NOLOAD),
           "stays in memory after it is unloaded; g++ needs -fno-gnu-unique");
   // The allocator maps on its own account, but not at each start.
-  require(after.allocations == before.allocations && after.threads == before.threads &&
-              after.mappings - before.mappings < Times,
+  require(allocationsNow == allocations && threadsNow == threads && mappingsNow - mappings < Times,
           "{} starts leak {} allocations, {} threads and {} mappings", Times,
-          after.allocations - before.allocations, after.threads - before.threads,
-          after.mappings - before.mappings);
+          allocationsNow - allocations, threadsNow - threads, mappingsNow - mappings);
   return fmt::format("{} starts", Times);
 }
 
