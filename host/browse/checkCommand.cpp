@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <sys/wait.h>
 
 namespace fs = std::filesystem;

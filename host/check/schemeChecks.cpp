@@ -90,11 +90,8 @@ void checkPaths(BrServer& server) {
 
 void checkAnswers(Item const& item) {
   require(read(*item).find(Unanswered) == std::string::npos, "does not answer for an attribute");
-  for (unsigned int const id : {BrBrowsable::NAME, BrBrowsable::BROWSABLE_TYPE}) {
-    LiString text;
-    item->get(int(id), &text);
-    require(!text.empty(), "its name or type is empty");
-  }
+  for (unsigned int const id : {BrBrowsable::NAME, BrBrowsable::BROWSABLE_TYPE})
+    require(!getAttribute(*item, id).empty(), "its name or type is empty");
 }
 
 void checkChildren(Item const& item) {

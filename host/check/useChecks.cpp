@@ -124,17 +124,17 @@ std::string checkActions() {
   });
 }
 
-template <std::string use(Item const&)> std::string useItems() {
-  std::string result;
-  forEachItem([&](Item const& item) { result += use(item); }, MaxSweptItems);
-  return result;
-}
-
 std::string checkFailures() {
   std::string result;
-  for (auto* const use : {&useItems<dragItem>, &useItems<showItem>, &useItems<performActions>})
-    if (!use().empty())
-      result += (result.empty() ? "" : "; ") + sweepFailures(use);
+  for (auto* const use : {dragItem, showItem, performActions}) {
+    auto const useItems = [use] {
+      std::string results;
+      forEachItem([&](Item const& item) { results += use(item); }, MaxSweptItems);
+      return results;
+    };
+    if (!useItems().empty())
+      result += (result.empty() ? "" : "; ") + sweepFailures(useItems);
+  }
   if (result.empty())
     throw Skipped("its items can neither be dragged, shown nor acted on");
   return fmt::format("{}, with at most {} items", result, MaxSweptItems);

@@ -14,7 +14,6 @@ namespace Qv {
 namespace {
 
 /// The names in the module's dynamic table that `nm` shows with an option.
-/// @throws std::runtime_error when one of them would keep the module in memory for good.
 std::set<std::string> dynamicNames(std::string const& option) {
   std::string const command =
       "nm --dynamic --format=posix " + option + " '" PLUGINBROWSERQVMODULE_FILE "'";
@@ -23,10 +22,7 @@ std::set<std::string> dynamicNames(std::string const& option) {
   char line[4096];
   while (nm && std::fgets(line, sizeof line, nm.get())) {
     std::string symbol;
-    char type = 0;
-    std::istringstream(line) >> symbol >> type;
-    if (type == 'u')
-      throw std::runtime_error(symbol + " is unique in the process");
+    std::istringstream(line) >> symbol;
     names.insert(symbol);
   }
   return names;

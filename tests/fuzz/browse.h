@@ -8,6 +8,7 @@
 #include "hostToolRegistry.h"
 #include "hostTtServer.h"
 #include "hostViewFactory.h"
+#include "items.h"
 
 #include <cstdlib>
 
@@ -30,31 +31,25 @@ inline void require(bool property) {
 }
 
 /// Browses an item and everything below it. @returns the number of its children.
-inline int browse(BrServer& server, RCShdPtr<BrBrowsable> const& item) {
-  LiString message;
-  require(server.getNode(item->getPath(), message)->getBrowsable()->isEqualTo(*item));
+inline int browse(RCShdPtr<BrBrowsable> const& item) {
+  require(findItem(item->getSchemeName(), item->getPath())->isEqualTo(*item));
   item->getTooltip(0);
   item->getImage(int(BrBrowsable::THUMBNAIL), {128, 128});
   RCShdPtr<DrCarrier> const carrier(new DrCarrier(SnSelection::create()));
   HostDndRegistry::getInstance().findHandler(*item)->populateSelection(item, carrier);
   HostBrRegistry::getInstance().createDetailView(item);
 
-  RCShdPtr<BrChildrenQuery> const query = item->getChildren(BrBrowsable::FindFilter(0));
-  Iterator<RCShdPtr<BrBrowsable>> children = query->getNextChildSequence();
-  int const count = children.getCardinality();
-  require(count == 0 || item->isAContainer());
-  for (; !children.atEnd(); children.next())
-    browse(server, children.item());
-  return count;
+  Items const children = getChildren(*item);
+  require(children.empty() || item->isAContainer());
+  for (RCShdPtr<BrBrowsable> const& child : children)
+    browse(child);
+  return int(children.size());
 }
 
 /// Browses both schemes, which must have that many categories and views, and empties them.
 inline void browseAll(int categories, int views) {
-  for (auto const& [scheme, count] : {std::pair("tools", categories), std::pair("views", views)}) {
-    BrServer& server = HostBrRegistry::getInstance().getServer(scheme);
-    LiString message;
-    require(browse(server, server.getNode("", message)->getBrowsable()) == count);
-  }
+  require(browse(findItem("tools", "")) == categories);
+  require(browse(findItem("views", "")) == views);
   HostToolRegistry::getInstance().clear();
   HostViewFactory::getInstance().clear();
   HostTtServer::getInstance().clear();
