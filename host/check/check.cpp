@@ -113,6 +113,12 @@ std::string forEachItem(std::function<void(Item const&)> const& f, std::size_t m
   return fmt::format("{}{} items", items.size() < most ? "" : "the first ", items.size());
 }
 
+std::string useItems(std::function<std::string(Item const&)> const& use) {
+  std::string results;
+  forEachItem([&](Item const& item) { results += use(item); }, MaxSweptItems);
+  return results;
+}
+
 std::string sweepFailures(std::function<std::string()> const& use) {
   // What is made once and kept is made here.
   std::string const expected = use();

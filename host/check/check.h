@@ -80,6 +80,8 @@ inline constexpr std::size_t MaxSweptItems = 30;
 Items findItems(std::size_t most = MaxItems);
 /// Calls `f` with each of them. @returns how many there were.
 std::string forEachItem(std::function<void(Item const&)> const& f, std::size_t most = MaxItems);
+/// What `use` returns for each of those that are swept.
+std::string useItems(std::function<std::string(Item const&)> const& use);
 
 /// Runs `use` with each call of the host failing once, then with each allocation. The failure must
 /// come out, nothing may be lost, and the next run must return what the first one did.

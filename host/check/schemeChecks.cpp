@@ -135,16 +135,13 @@ void checkEquality(Item const& item) {
 }
 
 std::string browse() {
-  std::string result;
-  forEachItem(
-      [&](Item const& item) {
-        result += OPtr<BrServer>(item->getServer()->clone())->getSchemeName() + read(*item);
-        for (BrBrowsable::FindFilter const filter : {AllChildren, ItemsOnly})
-          for (Item const& child : nextSequence(*item->getChildren(filter)))
-            result += child->getPath();
-      },
-      MaxSweptItems);
-  return result;
+  return useItems([](Item const& item) {
+    std::string result = OPtr<BrServer>(item->getServer()->clone())->getSchemeName() + read(*item);
+    for (BrBrowsable::FindFilter const filter : {AllChildren, ItemsOnly})
+      for (Item const& child : nextSequence(*item->getChildren(filter)))
+        result += child->getPath();
+    return result;
+  });
 }
 
 std::string checkLifetimes() {

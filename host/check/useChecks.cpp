@@ -127,13 +127,9 @@ std::string checkActions() {
 std::string checkFailures() {
   std::string result;
   for (auto* const use : {dragItem, showItem, performActions}) {
-    auto const useItems = [use] {
-      std::string results;
-      forEachItem([&](Item const& item) { results += use(item); }, MaxSweptItems);
-      return results;
-    };
-    if (!useItems().empty())
-      result += (result.empty() ? "" : "; ") + sweepFailures(useItems);
+    auto const useAll = [use] { return useItems(use); };
+    if (!useAll().empty())
+      result += (result.empty() ? "" : "; ") + sweepFailures(useAll);
   }
   if (result.empty())
     throw Skipped("its items can neither be dragged, shown nor acted on");
