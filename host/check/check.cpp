@@ -97,8 +97,8 @@ Items findItems(std::size_t most) {
     // The item must outlive its query.
     Item const item = items[next];
     Items const children = nextSequence(*item->getChildren(AllChildren));
-    std::size_t const room = std::min(most - std::min(most, items.size()), children.size());
-    items.insert(items.end(), children.begin(), children.begin() + std::ptrdiff_t(room));
+    items.insert(items.end(), children.begin(), children.end());
+    items.resize(std::min(items.size(), most));
   }
   return items;
 }

@@ -75,20 +75,16 @@ Calls startUp() {
   return calls;
 }
 
-/// What the registries hold after these calls.
-std::map<std::string, std::size_t> registeredBy(Calls const& calls) {
-  std::map<std::string, std::size_t> result = registered();
-  for (auto& entry : result)
-    entry.second = std::count_if(calls.begin(), calls.end(),
-                                 [&](auto const& call) { return call.operation == entry.first; });
-  return result;
-}
+/// What the registries hold then.
+std::map<std::string, std::size_t> const registeredThen = {
+    {"InBuildInfoUtil::registerInfo", 1}, {"BrDndRegistry::addHandler", 2},
+    {"BrRegistry::registerView", 1},      {"BrRegistry::registerServer", 2},
+    {"BrRegistry::registerIcon", 8},      {"ActRegistry::registerAction", 2}};
 
 TEST_F(LoadedModule, declaresItsPackageThenRegistersAllInOrder) {
   HostModule const module(PLUGINBROWSERQVMODULE_FILE);
-  Calls const calls = startUp();
-  EXPECT_EQ(journal_.getEntries(), calls);
-  EXPECT_EQ(registered(), registeredBy(calls));
+  EXPECT_EQ(journal_.getEntries(), startUp());
+  EXPECT_EQ(registered(), registeredThen);
   for (auto const& [key, file] : icons) {
     auto const image = HostBrRegistry::getInstance().getIcon(key);
     EXPECT_EQ(image.checkedCast<HostImage>()->getName(), file);
@@ -122,7 +118,7 @@ TEST_F(LoadedModule, registersNullImagesToo) {
   std::filesystem::copy(std::filesystem::path(RESOURCE_DIR) / "bvTool.xml", directory_);
   HostResources::getInstance().setDirectory(directory_);
   HostModule const module(PLUGINBROWSERQVMODULE_FILE);
-  EXPECT_EQ(registered(), registeredBy(startUp()));
+  EXPECT_EQ(registered(), registeredThen);
   for (auto const& [key, image] : HostBrRegistry::getInstance().getIcons())
     EXPECT_FALSE(image) << key.first;
   EXPECT_THAT(journal_.getEntries(),
@@ -131,6 +127,7 @@ TEST_F(LoadedModule, registersNullImagesToo) {
 }
 
 TEST_F(LoadedModule, staysWhenAnotherIsRefusedWithTheReason) {
+  auto const before = registered();
   HostModule const module(PLUGINBROWSERQVMODULE_FILE);
   std::size_t const packages = HostPackageManager::getInstance().getPackages().size();
   std::filesystem::path const text = write("text.qvmodule", "no shared library");
@@ -158,7 +155,7 @@ TEST_F(LoadedModule, staysWhenAnotherIsRefusedWithTheReason) {
     std::filesystem::copy_file(FAULTYMODULE_FILE, faulty);
     expectRefusal(faulty, reason);
   }
-  EXPECT_EQ(registered(), registeredBy({}));
+  EXPECT_EQ(registered(), before);
   EXPECT_EQ(HostPackageManager::getInstance().getPackages().size(), packages);
 }
 
