@@ -336,7 +336,10 @@ void BrowserWindow::takeSources(Sources sources) {
         treeView_->expand(tree_->index(row, 0));
       if (start_.scheme.empty() && scheme_->count() > 0)
         start_.scheme = scheme_->itemData(0).toString().toStdString();
-      return goTo(start_.scheme, start_.path);
+      goTo(start_.scheme, start_.path);
+      if (!treeView_->currentIndex().isValid())
+        treeView_->setCurrentIndex(tree_->index(0, 0));
+      return;
     }
     if (selected_)
       wanted_ = path;
@@ -375,8 +378,9 @@ void BrowserWindow::goTo(std::string const& scheme, std::string const& path) {
     else
       treeView_->setCurrentIndex(nearest);
   } catch (...) {
-    refusal_->setText(shown(describeException()));
-    settled("");
+    std::string const reason = describeException();
+    refusal_->setText(shown(reason));
+    settled(reason);
   }
 }
 
@@ -397,13 +401,15 @@ void BrowserWindow::listChanged() {
   if (list_->rowCount() == 0)
     showEmpty("Nothing here.");
   int row = -1;
+  std::string reason;
   if (wanted_) {
     row = list_->findRow(*wanted_);
     if (row < 0) {
       try {
         findListedItems(container_->getSchemeName(), {*wanted_});
       } catch (...) {
-        refusal_->setText(shown(describeException()));
+        reason = describeException();
+        refusal_->setText(shown(reason));
       }
     }
   }
@@ -415,7 +421,7 @@ void BrowserWindow::listChanged() {
   if (scrollBack_)
     listView_->verticalScrollBar()->setValue(*scrollBack_);
   scrollBack_.reset();
-  settled("");
+  settled(reason);
 }
 
 void BrowserWindow::select(RCShdPtr<BrBrowsable> const& item) {
