@@ -5,6 +5,7 @@
 #include "hostPath.h"
 
 #include <algorithm>
+#include <array>
 #include <fmt/format.h>
 #include <stdexcept>
 
@@ -39,8 +40,12 @@ RCShdPtr<BrBrowsable> findItem(std::string const& scheme, std::string const& pat
     allowed = getParentPath(allowed);
   auto const components =
       std::count(allowed.begin(), allowed.end(), HostPath::Separator) + (allowed.empty() ? 0 : 1);
+  constexpr std::array<char const*, 4> Numbers = {"no", "one", "two", "three"};
   throw std::invalid_argument(fmt::format("{}: \"{}\" has more than {} component{}", scheme, path,
-                                          components, components == 1 ? "" : "s"));
+                                          components < std::ssize(Numbers)
+                                              ? Numbers[std::size_t(components)]
+                                              : std::to_string(components),
+                                          components == 1 ? "" : "s"));
 }
 
 Items getChildren(BrBrowsable& item, BrBrowsable::FindFilter filter) {

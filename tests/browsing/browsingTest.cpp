@@ -118,8 +118,8 @@ TEST_F(Browsing, takesOnlyPathsThatAreListed) {
             "views: no item \"site  plan\" is listed; did you mean \"plan\"?"},
            {"tools", "Kit/xyz", "tools: no item \"Kit/xyz\" is listed"},
            {"tools", "Steel/saw", "tools: no item \"Steel/saw\" is listed"},
-           {"tools", "a/b/c/d", "tools: \"a/b/c/d\" has more than 2 components"},
-           {"views", "a/b", "views: \"a/b\" has more than 1 component"}})
+           {"tools", "a/b/c/d", "tools: \"a/b/c/d\" has more than two components"},
+           {"views", "a/b", "views: \"a/b\" has more than one component"}})
     EXPECT_EQ(std::string(thrownBy<std::invalid_argument>([&, scheme = scheme, path = path] {
                             findListedItems(scheme, {"", path});
                           }).what()),

@@ -74,7 +74,7 @@ TEST_F(Window, goesWhereATypedPathLeads) {
                          {"Wood/sow", wood, "",
                           "tools: no item \"Wood/sow\" is listed; did you mean \"Wood/saw\"?"},
                          {"Metal", {"file"}, "", ""},
-                         {"a/b/c", {"file"}, "", "tools: \"a/b/c\" has more than 2 components"},
+                         {"a/b/c", {"file"}, "", "tools: \"a/b/c\" has more than two components"},
                          {"Stone/axe", {"file"}, "", "tools: no item \"Stone/axe\" is listed"}}) {
     settle([&] {
       auto& path = find<QLineEdit>("Path");
