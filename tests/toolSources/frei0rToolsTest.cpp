@@ -147,7 +147,7 @@ TEST_F(Frei0rPlugins, CostOnlyThemselvesWhateverTheyDo) {
       {"boasting", "claims to have 1001 parameters"},
       {"half", "no function f0r_get_plugin_info"},
       {"text", "file too short"},
-      {"foreign", "is built for aarch64, not x86-64"},
+      {"foreign", "built for aarch64, not x86-64"},
       {"tinted", "unknown color model 3"},
       {"modern", "needs version 2 of the plug-in interface, newer than 1"},
       {"\xe9", "Paints clouds."},

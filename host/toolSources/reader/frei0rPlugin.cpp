@@ -81,7 +81,7 @@ void* load(char const* file) {
   std::ifstream(file, std::ios::binary).read(reinterpret_cast<char*>(&header), sizeof header);
   if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0)
     if (std::string const processor = processorOf(header); processor != processorOf(__ehdr_start))
-      throw PluginError("is built for " + processor + ", not " + processorOf(__ehdr_start));
+      throw PluginError("built for " + processor + ", not " + processorOf(__ehdr_start));
   // The loader starts with the path that it was given.
   std::string const prefix = std::string(file) + ": ";
   if (reason.starts_with(prefix))
